@@ -1,0 +1,31 @@
+// The class interface of the object model, in one header.
+#pragma once
+
+#include <ryx/hash/murmur_three32.hpp>
+#include <ryx/object/adaptor.hpp>
+#include <ryx/object/bad_cast.hpp>
+#include <ryx/object/bool.hpp>
+#include <ryx/object/container/const_iterator.hpp>
+#include <ryx/object/container/iterator.hpp>
+#include <ryx/object/double.hpp>
+#include <ryx/object/float.hpp>
+#include <ryx/object/int16.hpp>
+#include <ryx/object/int32.hpp>
+#include <ryx/object/int64.hpp>
+#include <ryx/object/int8.hpp>
+#include <ryx/object/object.hpp>
+#include <ryx/object/option.hpp>
+#include <ryx/object/options.hpp>
+#include <ryx/object/parse.hpp>
+#include <ryx/object/primitive.hpp>
+#include <ryx/object/registry/get.hpp>
+#include <ryx/object/registry/info.hpp>
+#include <ryx/object/required.hpp>
+#include <ryx/object/serialize/load_functions.hpp>
+#include <ryx/object/serialize/save_functions.hpp>
+#include <ryx/object/string.hpp>
+#include <ryx/object/uint16.hpp>
+#include <ryx/object/uint32.hpp>
+#include <ryx/object/uint64.hpp>
+#include <ryx/object/uint8.hpp>
+#include <ryx/type/bad_cast.hpp>

@@ -1,0 +1,4 @@
+// Symbol visibility of the hash library.
+#pragma once
+
+#define RYX_HASH_EXPORT __attribute__((visibility("default")))

@@ -1,0 +1,87 @@
+#include <ryx/hash/murmur_three32.hpp>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <unordered_set>
+
+namespace {
+
+using ryx::hash::MurmurThree32;
+
+struct Vector {
+  std::string input;
+  std::uint32_t seed;
+  std::uint32_t expected;
+};
+
+// Published MurmurHash3_x86_32 test vectors, with their own seeds.
+Vector const PublishedVectors[] = {
+    {"", 0u, 0u},
+    {"", 1u, 0x514E28B7u},
+    {"", 0xFFFFFFFFu, 0x81F16F39u},
+    {std::string(4, '\0'), 0u, 0x2362F9DEu},
+    {"aaaa", 0x9747B28Cu, 0x5A97808Au},
+    {"aaa", 0x9747B28Cu, 0x283E0130u},
+    {"aa", 0x9747B28Cu, 0x5D211726u},
+    {"a", 0x9747B28Cu, 0x7FA09EA6u},
+    {"abcd", 0x9747B28Cu, 0xF0478627u},
+    {"abc", 0x9747B28Cu, 0xC84A62DDu},
+    {"ab", 0x9747B28Cu, 0x74875592u},
+    {"Hello, world!", 0x9747B28Cu, 0x24884CBAu},
+    {"\xcf\x80\xcf\x80\xcf\x80\xcf\x80\xcf\x80\xcf\x80\xcf\x80\xcf\x80", 0x9747B28Cu, 0xD58063C1u},
+    {"The quick brown fox jumps over the lazy dog", 0x9747B28Cu, 0x2FA826CDu},
+    {"abc", 0u, 0xB3DD93FAu},
+    {"Hello, world!", 1234u, 0xFAF6CDB3u},
+    {"The quick brown fox jumps over the lazy dog", 0u, 0x2E4FF723u},
+};
+
+TEST(MurmurThree32, ComputeMatchesThePublishedVectors) {
+  for (Vector const& v : PublishedVectors) {
+    EXPECT_EQ(MurmurThree32::Compute(v.input.data(), v.input.size(), v.seed), v.expected)
+        << "input '" << v.input << "' seed " << v.seed;
+  }
+}
+
+TEST(MurmurThree32, InlineAndCountedFormsAgreeOnTheLibrarySeed) {
+  for (char const* name : {"ryx.object.Int32", "ryx.object.Dictionary", "a", "ab", "abc", ""}) {
+    EXPECT_EQ(MurmurThree32::MakeData(name), MurmurThree32::MakeData(boost::string_view(name)));
+    std::string const text(name);
+    EXPECT_EQ(MurmurThree32::MakeData(text).GetValue(),
+              MurmurThree32::Compute(text.data(), text.size(), 0x0AEF6901u));
+  }
+}
+
+TEST(MurmurThree32, InlineFormIsAConstantExpression) {
+  constexpr MurmurThree32 id = MurmurThree32::MakeData("ryx.object.Int32");
+  static_assert(id != MurmurThree32(), "a type name never hashes to the null id here");
+  EXPECT_EQ(id, MurmurThree32::MakeData(std::string("ryx.object.Int32")));
+}
+
+TEST(MurmurThree32, CountedFormHashesEmbeddedNulBytes) {
+  std::string const withNul("a\0b", 3);
+  EXPECT_NE(MurmurThree32::MakeData(withNul), MurmurThree32::MakeData("a"));
+}
+
+TEST(MurmurThree32, DefaultIsTheNullIdAndNullTextGivesIt) {
+  EXPECT_EQ(MurmurThree32().GetValue(), 0u);
+  EXPECT_EQ(MurmurThree32::MakeData(static_cast<char const*>(nullptr)), MurmurThree32());
+}
+
+TEST(MurmurThree32, ComparesSwapsHashesAndPrintsTheValue) {
+  MurmurThree32 a(1u);
+  MurmurThree32 b(0xFFFFFFFFu);
+  EXPECT_NE(a, b);
+  swap(a, b);
+  EXPECT_EQ(a.GetValue(), 0xFFFFFFFFu);
+  EXPECT_EQ(b, MurmurThree32(1u));
+  EXPECT_EQ(std::hash<MurmurThree32>()(a), 0xFFFFFFFFu);
+  std::ostringstream os;
+  os << a;
+  EXPECT_EQ(os.str(), "4294967295");
+  std::unordered_set<MurmurThree32> set{a, b, MurmurThree32(1u)};
+  EXPECT_EQ(set.size(), 2u);
+}
+
+}  // namespace
