@@ -1,0 +1,128 @@
+#include <ryx/object.hpp>
+#include <ryx/type/registry/detail/scoped.hpp>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace ryx::object;
+using ryx::hash::MurmurThree32;
+
+char const* const PrimitiveNames[] = {
+    "ryx.object.Bool",   "ryx.object.Int8",   "ryx.object.Int16",  "ryx.object.Int32",
+    "ryx.object.Int64",  "ryx.object.UInt8",  "ryx.object.UInt16", "ryx.object.UInt32",
+    "ryx.object.UInt64", "ryx.object.Float",  "ryx.object.Double", "ryx.object.String",
+};
+
+TEST(Registry, NamesEveryRegisteredKindAndMakesItsDefaultValue) {
+  for (char const* name : PrimitiveNames) {
+    MurmurThree32 const id = MurmurThree32::MakeData(name);
+    EXPECT_STREQ(Object::TypeName(id), name);
+    auto const made = Object::Make(id);
+    ASSERT_TRUE(made) << name;
+    EXPECT_EQ(made->GetType(), id);
+    auto const construct = Object::GetConstructFunction(id);
+    ASSERT_TRUE(construct);
+    EXPECT_EQ(construct()->GetType(), id);
+  }
+}
+
+TEST(Registry, MakesAFreshValueEachTime) {
+  auto const a = Object::Make(Object::TypeIdOf<Int32>());
+  auto const b = Object::Make(Object::TypeIdOf<Int32>());
+  ASSERT_TRUE(a && b);
+  EXPECT_NE(a, b);
+  EXPECT_EQ(a->As<Int32>().Get(), 0);
+}
+
+TEST(Registry, AnswersUnknownIdsWithEmptyResults) {
+  MurmurThree32 const unknown = MurmurThree32::MakeData("no.such.Type");
+  EXPECT_EQ(Object::TypeName(unknown), nullptr);
+  EXPECT_EQ(Object::TypeName(MurmurThree32()), nullptr);
+  EXPECT_EQ(Object::Make(unknown), nullptr);
+  EXPECT_FALSE(Object::GetConstructFunction(unknown));
+  SaveFunctions const save = Object::GetSaveFunctions(unknown);
+  EXPECT_FALSE(std::get<0>(save) || std::get<1>(save) || std::get<2>(save) || std::get<3>(save));
+  LoadFunctions const load = Object::GetLoadFunctions(unknown);
+  EXPECT_FALSE(std::get<0>(load) || std::get<1>(load) || std::get<2>(load));
+  std::ostringstream os;
+  os << save << ' ' << load;
+  EXPECT_EQ(os.str(),
+            "{\"xml\":false,\"json\":false,\"binary\":false} "
+            "{\"xml\":false,\"json\":false,\"binary\":false}");
+}
+
+TEST(Registry, KeepsTheFirstRecordOfAnId) {
+  registry::Registry local;
+  MurmurThree32 const id = Object::TypeIdOf<Int32>();
+  auto const makeInt = [] { return std::shared_ptr<Object>(std::make_shared<Int32>(1)); };
+  auto const makeBool = [] { return std::shared_ptr<Object>(std::make_shared<Bool>(true)); };
+  local.Register(registry::Info(id, "first", makeInt, {}, {}));
+  registry::Info const& kept = local.Register(registry::Info(id, "second", makeBool, {}, {}));
+  EXPECT_STREQ(kept.GetTypeName(), "first");
+  EXPECT_TRUE(kept.GetConstructFunction()()->Is<Int32>());
+  EXPECT_EQ(local.GetMap()->size(), 1u);
+  local.Deregister(id);
+  local.Deregister(id);
+  EXPECT_TRUE(local.GetMap()->empty());
+}
+
+TEST(Registry, AScopedRegistrationLastsAsLongAsItsObject) {
+  registry::Registry local;
+  {
+    ryx::type::registry::detail::Scoped<Int32, registry::Registry> const scoped(local);
+    auto const map = local.GetMap();
+    auto const found = map->find(Object::TypeIdOf<Int32>());
+    ASSERT_NE(found, map->end());
+    EXPECT_STREQ(found->second.GetTypeName(), "ryx.object.Int32");
+    EXPECT_TRUE(found->second.GetConstructFunction()()->Is<Int32>());
+  }
+  EXPECT_TRUE(local.GetMap()->empty());
+}
+
+TEST(Registry, ALockObjectBlocksOtherUsersUntilItIsDestroyed) {
+  std::atomic<bool> looked{false};
+  std::thread other;
+  {
+    auto const lock = registry::Get().GetMap();
+    other = std::thread([&] {
+      Object::TypeName(Object::TypeIdOf<Int32>());
+      looked = true;
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_FALSE(looked);
+  }
+  other.join();
+  EXPECT_TRUE(looked);
+}
+
+TEST(Registry, ServesConcurrentLookupsAndMakes) {
+  std::atomic<int> failures{0};
+  std::vector<std::thread> threads;
+  for (int t = 0; t < 4; ++t) {
+    threads.emplace_back([&, t] {
+      for (int i = 0; i < 5000; ++i) {
+        char const* name = PrimitiveNames[(i + t) % 12];
+        MurmurThree32 const id = MurmurThree32::MakeData(name);
+        char const* const found = Object::TypeName(id);
+        auto const made = Object::Make(id);
+        if (found == nullptr || std::string(found) != name || !made || made->GetType() != id) {
+          ++failures;
+        }
+      }
+    });
+  }
+  for (auto& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(failures, 0);
+}
+
+}  // namespace
