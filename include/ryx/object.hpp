@@ -1,5 +1,13 @@
-// The class interface of the object model, in one header.
+// The class interface of the object model, in one header, with the archives
+// its values are saved into (cereal's JSON archive through the one header that
+// configures its reader).
 #pragma once
+
+#include <ryx/serialize/archive/json.hpp>
+#include <ryx/templating/serialize/archive/output/data.hpp>
+
+#include <cereal/archives/portable_binary.hpp>
+#include <cereal/archives/xml.hpp>
 
 #include <ryx/hash/murmur_three32.hpp>
 #include <ryx/object/adaptor.hpp>
@@ -21,8 +29,15 @@
 #include <ryx/object/registry/get.hpp>
 #include <ryx/object/registry/info.hpp>
 #include <ryx/object/required.hpp>
+#include <ryx/object/serialize/binary.hpp>
+#include <ryx/object/serialize/json.hpp>
+#include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/load_functions.hpp>
+#include <ryx/object/serialize/nesting_limit.hpp>
+#include <ryx/object/serialize/save.hpp>
 #include <ryx/object/serialize/save_functions.hpp>
+#include <ryx/object/serialize/template_data.hpp>
+#include <ryx/object/serialize/xml.hpp>
 #include <ryx/object/string.hpp>
 #include <ryx/object/uint16.hpp>
 #include <ryx/object/uint32.hpp>

@@ -2,6 +2,10 @@
 // names, so that headers can refer to them without pulling them in.
 #pragma once
 
+// Visible by default, like the library's own types: functions instantiated for
+// these archives (Save, Load, the registry's functions) are exported, which a
+// hidden argument type would prevent.
+#pragma GCC visibility push(default)
 namespace cereal {
 class XMLOutputArchive;
 class XMLInputArchive;
@@ -14,6 +18,7 @@ class PortableBinaryInputArchive;
 namespace ryx::templating::serialize::archive::output {
 class Data;
 }  // namespace ryx::templating::serialize::archive::output
+#pragma GCC visibility pop
 
 namespace ryx::object {
 

@@ -19,12 +19,11 @@ using LoadFunctions =
     std::tuple<LoadFunction<cereal::XMLInputArchive>, LoadFunction<cereal::JSONInputArchive>,
                LoadFunction<cereal::PortableBinaryInputArchive>>;
 
-// The load function of T for Archive. Values are not loaded yet: until the
-// archive forms exist every load function is empty.
+// The load function of T for Archive. Defined and instantiated inside the
+// library for every kind it registers and every archive of the tuple; the
+// third parameter is always left at its default.
 template <class T, class Archive, LoadFunction<Archive>* = nullptr>
-LoadFunction<Archive> MakeLoadFunction() {
-  return LoadFunction<Archive>();
-}
+RYX_OBJECT_EXPORT LoadFunction<Archive> MakeLoadFunction();
 
 // Found by type::function::MakeOverloads when a type registers.
 template <class T, class Archive>

@@ -20,12 +20,11 @@ using SaveFunctions =
                SaveFunction<cereal::PortableBinaryOutputArchive>,
                SaveFunction<templating::serialize::archive::output::Data>>;
 
-// The save function of T for Archive. Values are not saved yet: until the
-// archive forms exist every save function is empty.
+// The save function of T for Archive. Defined and instantiated inside the
+// library for every kind it registers and every archive of the tuple; the
+// third parameter is always left at its default.
 template <class T, class Archive, SaveFunction<Archive>* = nullptr>
-SaveFunction<Archive> MakeSaveFunction() {
-  return SaveFunction<Archive>();
-}
+RYX_OBJECT_EXPORT SaveFunction<Archive> MakeSaveFunction();
 
 // Found by type::function::MakeOverloads when a type registers.
 template <class T, class Archive>

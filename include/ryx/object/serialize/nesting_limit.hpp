@@ -1,0 +1,32 @@
+// The nesting limit of Save and Load.
+//
+// Every value that Save or Load enters is one level below the value holding
+// it (the value passed in is level 1), and every schema one level below the
+// schema holding it (a container's own schema is level 1). A value or schema
+// deeper than the limit makes Save and Load throw NestingLimitError, which
+// keeps hostile documents from exhausting the stack. The limit is process-wide;
+// each thread counts its own depth. Raising it lets deeper values through at
+// the cost of proportionally more stack per Save or Load.
+#pragma once
+
+#include <ryx/object/export.hpp>
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+
+namespace ryx::object {
+
+inline constexpr std::size_t DefaultNestingLimit = 1000;
+
+class RYX_OBJECT_EXPORT NestingLimitError : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
+// The current limit; DefaultNestingLimit until changed.
+RYX_OBJECT_EXPORT std::size_t GetNestingLimit() noexcept;
+// Sets the limit for every thread; 0 is taken as 1.
+RYX_OBJECT_EXPORT void SetNestingLimit(std::size_t levels) noexcept;
+
+}  // namespace ryx::object

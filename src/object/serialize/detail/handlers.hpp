@@ -1,0 +1,101 @@
+// The save and load functions of every kind: MakeSaveFunction and
+// MakeLoadFunction, instantiated per form by the form's source.
+//
+// A kind is written by WriteValue and read by ReadValue. Primitives are
+// handled here: the type record, then "value". Every other kind (containers,
+// enumerators, pointers) provides the member templates
+//   template <class Archive> void Serialize(Archive&) const;  // output
+//   template <class Archive> void Serialize(Archive&);        // input
+// which write or read the type record first (WriteTypeRecord / ReadTypeRecord)
+// and then their members.
+#pragma once
+
+#include <ryx/object/primitive.hpp>
+#include <ryx/object/serialize/load_functions.hpp>
+#include <ryx/object/serialize/save_functions.hpp>
+
+#include <string>
+#include <type_traits>
+
+#include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/binary_fields.hpp"
+#include "object/serialize/detail/kinds.hpp"
+#include "object/serialize/detail/type_record.hpp"
+
+namespace ryx::object {
+
+namespace detail {
+
+template <class Archive, class T>
+void WriteField(Archive& archive, T const& value) {
+  archive(cereal::make_nvp("value", value));
+}
+inline void WriteField(cereal::PortableBinaryOutputArchive& archive, bool value) {
+  WriteBool(archive, value);
+}
+inline void WriteField(cereal::PortableBinaryOutputArchive& archive, std::string const& value) {
+  WriteString(archive, value);
+}
+
+template <class T, class Archive>
+T ReadField(Archive& archive) {
+  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> && std::is_same_v<T, bool>) {
+    return ReadBool(archive);
+  } else if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> &&
+                       std::is_same_v<T, std::string>) {
+    return ReadString(archive);
+  } else {
+    T value{};
+    archive(cereal::make_nvp("value", value));
+    return value;
+  }
+}
+
+template <class Archive, class T>
+void WriteValue(Archive& archive, T const& value) {
+  value.Serialize(archive);
+}
+
+template <class Archive, class T>
+void WriteValue(Archive& archive, Primitive<T, Object> const& value) {
+  WriteTypeRecord(archive, value);
+  WriteField(archive, value.Get());
+}
+
+template <class Archive, class T>
+void ReadValue(Archive& archive, T& value) {
+  value.Serialize(archive);
+}
+
+// The value is set only once everything was read.
+template <class Archive, class T>
+void ReadValue(Archive& archive, Primitive<T, Object>& value) {
+  ReadTypeRecord(archive, value);
+  value.Set(ReadField<T>(archive));
+}
+
+}  // namespace detail
+
+// Checked cast: a save function called with another kind throws BadCast.
+template <class T, class Archive, SaveFunction<Archive>*>
+SaveFunction<Archive> MakeSaveFunction() {
+  return [](Object const& object, Archive& archive) {
+    detail::WriteValue(archive, object.As<T>());
+  };
+}
+
+// Unchecked: Load made the object from the same type id.
+template <class T, class Archive, LoadFunction<Archive>*>
+LoadFunction<Archive> MakeLoadFunction() {
+  return [](Object& object, Archive& archive) {
+    detail::ReadValue(archive, static_cast<T&>(object));
+  };
+}
+
+}  // namespace ryx::object
+
+// The save and load functions of every kind for one pair of archives.
+#define RYX_OBJECT_DETAIL_INSTANTIATE_SAVE(Kind) \
+  template SaveFunction<RYX_OBJECT_DETAIL_OUTPUT> MakeSaveFunction<Kind, RYX_OBJECT_DETAIL_OUTPUT>();
+#define RYX_OBJECT_DETAIL_INSTANTIATE_LOAD(Kind) \
+  template LoadFunction<RYX_OBJECT_DETAIL_INPUT> MakeLoadFunction<Kind, RYX_OBJECT_DETAIL_INPUT>();

@@ -1,0 +1,24 @@
+// detail::NestingGuard: one level of value or schema nesting, counted per
+// thread for as long as the guard lives.
+#pragma once
+
+#include <cstddef>
+
+namespace ryx::object::detail {
+
+enum class Nesting { value, schema };
+
+class NestingGuard {
+public:
+  // Throws NestingLimitError, counting nothing, when the new level would be
+  // deeper than GetNestingLimit().
+  explicit NestingGuard(Nesting nesting);
+  NestingGuard(NestingGuard const&) = delete;
+  NestingGuard& operator=(NestingGuard const&) = delete;
+  ~NestingGuard() { --depth; }
+
+private:
+  std::size_t& depth;
+};
+
+}  // namespace ryx::object::detail

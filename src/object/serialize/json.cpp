@@ -1,0 +1,39 @@
+#include <ryx/object/serialize/json.hpp>
+
+#include <ryx/object/serialize/load.hpp>
+#include <ryx/object/serialize/save.hpp>
+
+#include <sstream>
+
+#include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/view_stream.hpp"
+
+namespace ryx::object {
+
+#define RYX_OBJECT_DETAIL_OUTPUT cereal::JSONOutputArchive
+#define RYX_OBJECT_DETAIL_INPUT cereal::JSONInputArchive
+RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
+RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_LOAD)
+
+std::string ToJson(std::shared_ptr<Object const> const& value) {
+  std::ostringstream text;
+  {
+    // The archive completes the document when it is destroyed.
+    cereal::JSONOutputArchive archive(text);
+    Save(archive, value);
+  }
+  return text.str();
+}
+
+// The parser is iterative (see <ryx/serialize/archive/json.hpp>), so any depth
+// of nesting only costs memory in proportion to the document; Load refuses
+// values nested deeper than the limit.
+std::shared_ptr<Object> FromJson(std::string_view document) {
+  detail::ViewStream in(document);
+  cereal::JSONInputArchive archive(in);
+  std::shared_ptr<Object> value;
+  Load(archive, value);
+  return value;
+}
+
+}  // namespace ryx::object

@@ -1,0 +1,92 @@
+#include <ryx/object/serialize/load.hpp>
+
+#include <ryx/object/object.hpp>
+#include <ryx/object/option.hpp>
+
+#include <boost/utility/string_view.hpp>
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <type_traits>
+
+#include "object/detail/type_name.hpp"
+#include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/nesting.hpp"
+
+namespace ryx::object {
+
+namespace {
+
+// The type record at the current position, whatever its name.
+hash::MurmurThree32 ReadTypeId(cereal::JSONInputArchive& archive) {
+  std::string name;
+  archive(name);
+  return hash::MurmurThree32::MakeData(boost::string_view(name));
+}
+
+hash::MurmurThree32 ReadTypeId(cereal::XMLInputArchive& archive) {
+  // The archive would step past the last child of the node.
+  if (archive.getNodeName() == nullptr) {
+    throw cereal::Exception("XML Parsing failed - the node holds no value to load");
+  }
+  std::string name;
+  archive(name);
+  return hash::MurmurThree32::MakeData(boost::string_view(name));
+}
+
+hash::MurmurThree32 ReadTypeId(cereal::PortableBinaryInputArchive& archive) {
+  std::uint32_t id = 0;
+  archive(id);
+  return hash::MurmurThree32(id);
+}
+
+// A text document closes the value's node around what was not read; a binary
+// stream has no such frame, so a value it cannot read ends the load.
+template <class Archive>
+void CannotRead(hash::MurmurThree32 const& id) {
+  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive>) {
+    if (id == hash::MurmurThree32()) {
+      return;
+    }
+    if (Object::TypeName(id) == nullptr) {
+      throw std::runtime_error("Cannot load the unregistered type id " +
+                               std::to_string(id.GetValue()) +
+                               " from the binary form: the bytes that follow cannot be read");
+    }
+    throw std::runtime_error(std::string("Cannot load a ") + detail::TypeNameOrNotRegistered(id) +
+                             " from the binary form: the type has no binary load function");
+  } else {
+    static_cast<void>(id);
+  }
+}
+
+}  // namespace
+
+template <class Archive>
+void Load(Archive& archive, std::shared_ptr<Object>& object) {
+  detail::NestingGuard const level(detail::Nesting::value);
+  hash::MurmurThree32 const id = ReadTypeId(archive);
+  auto const construct = Object::GetConstructFunction(id);
+  std::shared_ptr<Object> made = construct ? construct() : nullptr;
+  LoadFunction<Archive> load;
+  if (made) {
+    load = std::get<LoadFunction<Archive>>(Object::GetLoadFunctions(id));
+  }
+  if (!load) {
+    CannotRead<Archive>(id);
+    object = nullptr;
+    return;
+  }
+  made->GetOptions().Set(Option::deserializing);
+  load(*made, archive);
+  made->GetOptions().Clear(Option::deserializing);
+  object = std::move(made);
+}
+
+template void Load(cereal::XMLInputArchive&, std::shared_ptr<Object>&);
+template void Load(cereal::JSONInputArchive&, std::shared_ptr<Object>&);
+template void Load(cereal::PortableBinaryInputArchive&, std::shared_ptr<Object>&);
+
+}  // namespace ryx::object

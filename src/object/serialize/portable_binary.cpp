@@ -1,0 +1,40 @@
+#include <ryx/object/serialize/binary.hpp>
+
+#include <ryx/object/serialize/load.hpp>
+#include <ryx/object/serialize/save.hpp>
+
+#include <sstream>
+#include <stdexcept>
+
+#include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/view_stream.hpp"
+
+namespace ryx::object {
+
+#define RYX_OBJECT_DETAIL_OUTPUT cereal::PortableBinaryOutputArchive
+#define RYX_OBJECT_DETAIL_INPUT cereal::PortableBinaryInputArchive
+RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
+RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_LOAD)
+
+std::string ToBinary(std::shared_ptr<Object const> const& value) {
+  std::ostringstream bytes(std::ios::binary);
+  cereal::PortableBinaryOutputArchive archive(bytes);
+  Save(archive, value);
+  return bytes.str();
+}
+
+std::shared_ptr<Object> FromBinary(std::string_view bytes) {
+  // The archive would take any other first byte as "big-endian".
+  if (!bytes.empty() && static_cast<unsigned char>(bytes.front()) > 1) {
+    throw std::runtime_error("Invalid endianness byte in the binary form: " +
+                             std::to_string(static_cast<unsigned char>(bytes.front())) +
+                             " (expected 0 or 1)");
+  }
+  detail::ViewStream in(bytes);
+  cereal::PortableBinaryInputArchive archive(in);
+  std::shared_ptr<Object> value;
+  Load(archive, value);
+  return value;
+}
+
+}  // namespace ryx::object
