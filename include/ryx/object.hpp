@@ -34,6 +34,7 @@
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/load_functions.hpp>
 #include <ryx/object/serialize/nesting_limit.hpp>
+#include <ryx/object/serialize/required.hpp>
 #include <ryx/object/serialize/save.hpp>
 #include <ryx/object/serialize/save_functions.hpp>
 #include <ryx/object/serialize/template_data.hpp>

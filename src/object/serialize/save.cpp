@@ -20,9 +20,7 @@ void WriteNullRecord(Archive& archive) {
   archive(cereal::make_nvp("typename", std::string()));
 }
 
-void WriteNullRecord(cereal::PortableBinaryOutputArchive& archive) {
-  archive(std::uint32_t(0));
-}
+void WriteNullRecord(cereal::PortableBinaryOutputArchive& archive) { archive(std::uint32_t(0)); }
 
 }  // namespace
 

@@ -12,16 +12,14 @@ constexpr std::size_t End = std::string_view::npos;
 
 bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 bool IsNameChar(char c) { return !IsSpace(c) && c != '/' && c != '>' && c != '?'; }
-bool IsAttributeNameChar(char c) {
-  return IsNameChar(c) && c != '<' && c != '=' && c != '!';
-}
+bool IsAttributeNameChar(char c) { return IsNameChar(c) && c != '<' && c != '=' && c != '!'; }
 bool IsLetter(char c, char lower) { return c == lower || c == lower - 'a' + 'A'; }
 
 // Walks markup the way the XML parser reads it. Every Skip... returns the
 // position after the construct, or End where the parser reports an error: it
 // reads nothing after that, so neither does the scan.
 class Scanner {
-public:
+ public:
   explicit Scanner(std::string_view text) : text(text) {}
 
   std::size_t Scan(std::size_t maxDepth) const {
@@ -49,7 +47,7 @@ public:
     return 0;
   }
 
-private:
+ private:
   char At(std::size_t at) const { return at < text.size() ? text[at] : '\0'; }
 
   std::size_t Past(std::size_t at, std::string_view end) const {

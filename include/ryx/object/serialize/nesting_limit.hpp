@@ -20,7 +20,7 @@ namespace ryx::object {
 inline constexpr std::size_t DefaultNestingLimit = 1000;
 
 class RYX_OBJECT_EXPORT NestingLimitError : public std::runtime_error {
-public:
+ public:
   using std::runtime_error::runtime_error;
 };
 

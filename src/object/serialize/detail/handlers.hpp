@@ -39,7 +39,8 @@ inline void WriteField(cereal::PortableBinaryOutputArchive& archive, std::string
 
 template <class T, class Archive>
 T ReadField(Archive& archive) {
-  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> && std::is_same_v<T, bool>) {
+  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> &&
+                std::is_same_v<T, bool>) {
     return ReadBool(archive);
   } else if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> &&
                        std::is_same_v<T, std::string>) {
@@ -79,23 +80,22 @@ void ReadValue(Archive& archive, Primitive<T, Object>& value) {
 // Checked cast: a save function called with another kind throws BadCast.
 template <class T, class Archive, SaveFunction<Archive>*>
 SaveFunction<Archive> MakeSaveFunction() {
-  return [](Object const& object, Archive& archive) {
-    detail::WriteValue(archive, object.As<T>());
-  };
+  return
+      [](Object const& object, Archive& archive) { detail::WriteValue(archive, object.As<T>()); };
 }
 
 // Unchecked: Load made the object from the same type id.
 template <class T, class Archive, LoadFunction<Archive>*>
 LoadFunction<Archive> MakeLoadFunction() {
-  return [](Object& object, Archive& archive) {
-    detail::ReadValue(archive, static_cast<T&>(object));
-  };
+  return
+      [](Object& object, Archive& archive) { detail::ReadValue(archive, static_cast<T&>(object)); };
 }
 
 }  // namespace ryx::object
 
 // The save and load functions of every kind for one pair of archives.
-#define RYX_OBJECT_DETAIL_INSTANTIATE_SAVE(Kind) \
-  template SaveFunction<RYX_OBJECT_DETAIL_OUTPUT> MakeSaveFunction<Kind, RYX_OBJECT_DETAIL_OUTPUT>();
+#define RYX_OBJECT_DETAIL_INSTANTIATE_SAVE(Kind)  \
+  template SaveFunction<RYX_OBJECT_DETAIL_OUTPUT> \
+  MakeSaveFunction<Kind, RYX_OBJECT_DETAIL_OUTPUT>();
 #define RYX_OBJECT_DETAIL_INSTANTIATE_LOAD(Kind) \
   template LoadFunction<RYX_OBJECT_DETAIL_INPUT> MakeLoadFunction<Kind, RYX_OBJECT_DETAIL_INPUT>();

@@ -9,7 +9,7 @@ namespace ryx::object::detail {
 enum class Nesting { value, schema };
 
 class NestingGuard {
-public:
+ public:
   // Throws NestingLimitError, counting nothing, when the new level would be
   // deeper than GetNestingLimit().
   explicit NestingGuard(Nesting nesting);
@@ -17,7 +17,7 @@ public:
   NestingGuard& operator=(NestingGuard const&) = delete;
   ~NestingGuard() { --depth; }
 
-private:
+ private:
   std::size_t& depth;
 };
 

@@ -9,7 +9,7 @@
 namespace ryx::object::detail {
 
 class ViewBuffer : public std::streambuf {
-public:
+ public:
   // The get area is never written: putback of a different character fails.
   explicit ViewBuffer(std::string_view bytes) {
     char* const begin = const_cast<char*>(bytes.data());
@@ -18,7 +18,7 @@ public:
 };
 
 class ViewStream : private ViewBuffer, public std::istream {
-public:
+ public:
   explicit ViewStream(std::string_view bytes)
       : ViewBuffer(bytes), std::istream(static_cast<ViewBuffer*>(this)) {}
 };

@@ -15,13 +15,13 @@
 namespace cereal::archive {
 
 class RYX_SERIALIZE_EXPORT JsonParseError : public Exception {
-public:
+ public:
   explicit JsonParseError(std::string check);
 
   // The text of the failed check, such as "IsString()".
   std::string const& GetCheck() const noexcept { return check; }
 
-private:
+ private:
   std::string check;
 };
 

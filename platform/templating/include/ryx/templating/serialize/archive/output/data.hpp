@@ -23,7 +23,7 @@
 namespace ryx::templating::serialize::archive::output {
 
 class RYX_TEMPLATING_EXPORT Data : public cereal::OutputArchive<Data> {
-public:
+ public:
   Data();
   Data(Data const&) = delete;
   Data& operator=(Data const&) = delete;
@@ -53,7 +53,7 @@ public:
     Place(Render(value));
   }
 
-private:
+ private:
   struct Open {
     mstch::node* node;
     bool isArray;
