@@ -108,6 +108,21 @@ TEST(JsonForm, RefusesMissingMembersAndEmptyNodes) {
   EXPECT_THROW(FromJson(""), cereal::Exception);
 }
 
+TEST(JsonForm, RefusesZerosThatTheNumberParserWouldMisread) {
+  std::string const misread[] = {"0e-300", "-0e30", "0.00000000000000000000000", "0.0e-23"};
+  for (std::string const& zero : misread) {
+    EXPECT_THROW(FromJson(R"({"typename":"ryx.object.Double","value":)" + zero + "}"),
+                 cereal::archive::JsonParseError)
+        << zero;
+  }
+  std::string const read[] = {"0.0", "-0.0", "0e22", "0.0000000000000000000000", "1e-300"};
+  for (std::string const& number : read) {
+    EXPECT_NO_THROW(FromJson(R"({"typename":"ryx.object.Double","value":)" + number + "}")) << number;
+  }
+  // Inside strings digits are text.
+  EXPECT_EQ(FromJson(R"({"typename":"ryx.object.String","value":"0e-300"})")->As<String>().Get(), "0e-300");
+}
+
 TEST(JsonForm, FailsCleanlyOnAMillionNestedArrays) {
   std::string const document = std::string(1000000, '[') + std::string(1000000, ']');
   EXPECT_THROW(FromJson(document), cereal::archive::JsonParseError);

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/json_numbers.hpp"
 #include "object/serialize/detail/view_stream.hpp"
 
 namespace ryx::object {
@@ -29,6 +30,7 @@ std::string ToJson(std::shared_ptr<Object const> const& value) {
 // of nesting only costs memory in proportion to the document; Load refuses
 // values nested deeper than the limit.
 std::shared_ptr<Object> FromJson(std::string_view document) {
+  detail::CheckJsonZeros(document);
   detail::ViewStream in(document);
   cereal::JSONInputArchive archive(in);
   std::shared_ptr<Object> value;
