@@ -1,6 +1,8 @@
 // The class interface of the object model, in one header.
 #pragma once
 
+#include <ryx/capi/convert.hpp>
+#include <ryx/capi/peek.hpp>
 #include <ryx/hash/murmur_three32.hpp>
 #include <ryx/object/adaptor.hpp>
 #include <ryx/object/bad_cast.hpp>
