@@ -193,6 +193,17 @@ TEST(Array, ReportsAnElementThatCannotBeCopied) {
   EXPECT_EQ(Snapshot::Of(target), before);
 }
 
+TEST(Array, CopiesAndComparesANullElementLeftByLoadingAsNull) {
+  Array<Object> source(Objects{MakeInt(1), MakeInt(2)});
+  *source.GetSlot(1) = nullptr;  // what loading a null record leaves
+  Array<Object> copy;
+  copy.Set(source);
+  ASSERT_EQ(copy.Size(), 2u);
+  EXPECT_EQ(copy.Get(1), nullptr);
+  EXPECT_TRUE(copy.EqualTo(source));
+  EXPECT_FALSE(copy.EqualTo(Array<Object>(Objects{MakeInt(1), MakeInt(2)})));
+}
+
 TEST(Array, ComparesLengthElementsAndSchema) {
   Array<Object> const a(Objects{MakeInt(1), MakeString("x")});
   EXPECT_TRUE(a.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("x")})));

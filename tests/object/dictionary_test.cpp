@@ -156,6 +156,17 @@ TEST(Dictionary, ReportsAValueThatCannotBeCopiedAndStaysAsItWas) {
   EXPECT_EQ(Snapshot::Of(target), before);
 }
 
+TEST(Dictionary, CopiesAndComparesANullValueLeftByLoadingAsNull) {
+  Dictionary<Object> source(Object::TypeIdOf<Dictionary<Object>>(), Int32Schema,
+                            Properties{{"a", MakeInt(1)}, {"b", MakeInt(2)}});
+  *source.GetSlot("b") = nullptr;  // what loading a null record leaves
+  Dictionary<Object> copy;
+  copy.Set(source);
+  ASSERT_EQ(copy.Size(), 2u);
+  EXPECT_EQ(copy.Get("b"), nullptr);
+  EXPECT_TRUE(copy.EqualTo(source));
+}
+
 TEST(Dictionary, ComparesKeysValuesAndSchema) {
   Dictionary<Object> const a(Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}});
   EXPECT_TRUE(a.EqualTo(Dictionary<Object>(Properties{{"y", MakeString("s")}, {"x", MakeInt(1)}})));
