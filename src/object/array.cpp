@@ -6,6 +6,7 @@
 #include <ryx/type/registry/detail/scoped.hpp>
 
 #include "object/detail/child_release.hpp"
+#include "object/detail/copier.hpp"
 #include "object/detail/nesting_guard.hpp"
 #include "object/detail/type_name.hpp"
 
@@ -57,6 +58,7 @@ Array<Base>& Array<Base>::operator=(Array const& other) {
     return *this;
   }
   detail::NestingGuard const guard("copy");
+  detail::Copier copier;
   Objects copies;
   copies.reserve(other.objects.size());
   for (std::shared_ptr<Object> const& element : other.objects) {
@@ -65,7 +67,7 @@ Array<Base>& Array<Base>::operator=(Array const& other) {
       copies.emplace_back();
       continue;
     }
-    std::shared_ptr<Object> copy = Object::Copy(*element);
+    std::shared_ptr<Object> copy = copier.Copy(*element);
     if (!copy) {
       std::string message = "Failed to copy array element '";
       if (char const* const name = Object::TypeName(element->GetType())) {

@@ -6,6 +6,7 @@
 #include <ryx/type/registry/detail/scoped.hpp>
 
 #include "object/detail/child_release.hpp"
+#include "object/detail/copier.hpp"
 #include "object/detail/nesting_guard.hpp"
 
 #include <stdexcept>
@@ -42,6 +43,7 @@ Dictionary<Base>& Dictionary<Base>::operator=(Dictionary const& other) {
     return *this;
   }
   detail::NestingGuard const guard("copy");
+  detail::Copier copier;
   Properties copies;
   copies.reserve(other.properties.size());
   for (auto const& [key, value] : other.properties) {
@@ -50,7 +52,7 @@ Dictionary<Base>& Dictionary<Base>::operator=(Dictionary const& other) {
       copies.emplace(key, nullptr);
       continue;
     }
-    std::shared_ptr<Object> copy = Object::Copy(*value);
+    std::shared_ptr<Object> copy = copier.Copy(*value);
     if (!copy) {
       std::string message = "Failed to copy dictionary element '" + key + "': ";
       if (char const* const name = Object::TypeName(value->GetType())) {

@@ -14,6 +14,10 @@ namespace {
 std::atomic<std::size_t> allocations{0};
 }  // namespace
 
+// The replacements pair malloc with free themselves; once inlined, GCC
+// cannot see that and would warn about operator new paired with free.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void* operator new(std::size_t size) {
   ++allocations;
   if (void* p = std::malloc(size == 0 ? 1 : size)) {
@@ -23,6 +27,7 @@ void* operator new(std::size_t size) {
 }
 void operator delete(void* p) noexcept { std::free(p); }
 void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+#pragma GCC diagnostic pop
 
 namespace {
 
