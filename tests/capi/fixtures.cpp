@@ -1,0 +1,32 @@
+#include "fixtures.h"
+
+#include <ryx/object.hpp>
+
+#include <memory>
+#include <string>
+
+namespace {
+
+using ryx::object::Object;
+
+class Unregistered : public Object {
+ public:
+  Unregistered() : Object(ryx::hash::MurmurThree32::MakeData("ryx.tests.Unregistered")) {}
+  void Set(Object const& /*other*/) override {}
+  bool EqualTo(Object const& /*other*/) const override { return false; }
+};
+
+}  // namespace
+
+extern "C" RyxObject* MakeStringWithNul(void) {
+  return ryx::object::Convert(std::make_shared<ryx::object::String>(std::string("a\0b", 3)));
+}
+
+extern "C" RyxObject* MakeUnregisteredValue(void) {
+  return ryx::object::Convert(std::make_shared<Unregistered>());
+}
+
+extern "C" RyxObject* MakeEmptyHandle(void) {
+  // The handle's layout: a heap-allocated std::shared_ptr<Object>.
+  return reinterpret_cast<RyxObject*>(new std::shared_ptr<Object>());
+}

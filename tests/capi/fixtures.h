@@ -1,0 +1,25 @@
+/*
+ * Values a C program cannot make through the C interface, made on the C++
+ * side for the tests. Each returns an owned handle.
+ */
+#ifndef RYX_TESTS_CAPI_FIXTURES_H
+#define RYX_TESTS_CAPI_FIXTURES_H
+
+#include <ryx/object.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* A string value of three characters, the middle one NUL: "a\0b". */
+RyxObject* MakeStringWithNul(void);
+/* A value whose type id has no registered name. */
+RyxObject* MakeUnregisteredValue(void);
+/* A handle whose shared pointer is empty, like a slot that loading left empty. */
+RyxObject* MakeEmptyHandle(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
