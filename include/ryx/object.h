@@ -50,11 +50,8 @@
 
 #if defined(__GNUC__)
 #define RYX_OBJECT_API __attribute__((visibility("default")))
-/* Asks the compiler to check that a variadic list ends with NULL. */
-#define RYX_OBJECT_SENTINEL __attribute__((sentinel))
 #else
 #define RYX_OBJECT_API
-#define RYX_OBJECT_SENTINEL
 #endif
 
 /* C++ callers see that no function throws. */
@@ -265,10 +262,11 @@ RYX_OBJECT_API bool RyxObjectArrayInstanceOf(RyxObject* object) RYX_OBJECT_NOEXC
  * `first`, ... up to a terminating NULL (NULL alone gives an empty array).
  * Each handle is consumed as it is read, so pass a value twice only through
  * two handles (RyxObjectReference). On failure, logged, NULL: the handles
- * read so far are consumed, the rest untouched.
+ * read so far are consumed, the rest untouched. The list is not marked as
+ * sentinel-terminated for the compiler, since NULL alone is a valid call.
  */
 RYX_OBJECT_API RyxObject* RyxObjectArrayCreateObjects(RyxObject* first,
-                                                      ...) RYX_OBJECT_NOEXCEPT RYX_OBJECT_SENTINEL;
+                                                      ...) RYX_OBJECT_NOEXCEPT;
 
 /* The number of elements of `array` (borrowed); 0 on failure. */
 RYX_OBJECT_API size_t RyxObjectArraySize(RyxObject* array) RYX_OBJECT_NOEXCEPT;
@@ -372,7 +370,7 @@ RYX_OBJECT_API bool RyxObjectDictInstanceOf(RyxObject* object) RYX_OBJECT_NOEXCE
  * handles read so far are consumed, the rest untouched.
  */
 RYX_OBJECT_API RyxObject* RyxObjectDictCreatePairs(char const* key,
-                                                   ...) RYX_OBJECT_NOEXCEPT RYX_OBJECT_SENTINEL;
+                                                   ...) RYX_OBJECT_NOEXCEPT;
 
 /* The number of entries of `dictionary` (borrowed); 0 on failure. */
 RYX_OBJECT_API size_t RyxObjectDictSize(RyxObject* dictionary) RYX_OBJECT_NOEXCEPT;

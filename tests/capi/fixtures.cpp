@@ -30,3 +30,24 @@ extern "C" RyxObject* MakeEmptyHandle(void) {
   // The handle's layout: a heap-allocated std::shared_ptr<Object>.
   return reinterpret_cast<RyxObject*>(new std::shared_ptr<Object>());
 }
+
+extern "C" RyxObject* MakeArrayRequiring(uint32_t type) {
+  ryx::hash::MurmurThree32 const element(type);
+  return ryx::object::Convert(
+      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Array<Object>>(),
+                            {ryx::object::Required(element)})
+          .Make());
+}
+
+extern "C" RyxObject* MakeDictionaryRequiring(uint32_t type) {
+  ryx::hash::MurmurThree32 const element(type);
+  return ryx::object::Convert(
+      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Dictionary<Object>>(),
+                            {ryx::object::Required(element)})
+          .Make());
+}
+
+extern "C" RyxObject* MakeDefaultEnum(void) {
+  return ryx::object::Convert(
+      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Enum<Object>>()).Make());
+}

@@ -17,6 +17,11 @@ RyxObject* MakeStringWithNul(void);
 RyxObject* MakeUnregisteredValue(void);
 /* A handle whose shared pointer is empty, like a slot that loading left empty. */
 RyxObject* MakeEmptyHandle(void);
+/* An empty array or dictionary whose elements must have the type `type`. */
+RyxObject* MakeArrayRequiring(uint32_t type);
+RyxObject* MakeDictionaryRequiring(uint32_t type);
+/* An enumerator as the registry makes it: of no enumeration yet. */
+RyxObject* MakeDefaultEnum(void);
 
 #ifdef __cplusplus
 }

@@ -76,6 +76,9 @@ int main(int argc, char** argv) {
   RunAll(GenericTests, GenericTestCount, only);
   RunAll(PrimitiveTests, PrimitiveTestCount, only);
   RunAll(StringTests, StringTestCount, only);
+  RunAll(ArrayTests, ArrayTestCount, only);
+  RunAll(DictionaryTests, DictionaryTestCount, only);
+  RunAll(EnumTests, EnumTestCount, only);
   RyxLoggingSetSink(NULL, NULL);
   if (failures != 0) {
     fprintf(stderr, "%d check(s) failed\n", failures);

@@ -40,5 +40,11 @@ extern TestCase const PrimitiveTests[];
 extern size_t const PrimitiveTestCount;
 extern TestCase const StringTests[];
 extern size_t const StringTestCount;
+extern TestCase const ArrayTests[];
+extern size_t const ArrayTestCount;
+extern TestCase const DictionaryTests[];
+extern size_t const DictionaryTestCount;
+extern TestCase const EnumTests[];
+extern size_t const EnumTestCount;
 
 #endif
