@@ -18,6 +18,12 @@ RyxObject* MakeUnregisteredValue(void);
 /* A handle whose shared pointer is empty, like a slot that loading left empty. */
 RyxObject* MakeEmptyHandle(void);
 
+/*
+ * Makes the n-th C++ allocation from now on this thread fail with
+ * std::bad_alloc (1: the next one); the others succeed. 0 cancels.
+ */
+void FailNthAllocation(int n);
+
 #ifdef __cplusplus
 }
 #endif
