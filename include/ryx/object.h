@@ -24,12 +24,12 @@
  *
  * ERRORS
  *
- * No function lets an exception or a crash out for bad arguments: every
- * failure is answered with a status code, NULL, 0 or false, and (unless the
- * function's comment says it is silent) with exactly one message to the
- * logger "ryx.object" at level 16, for example
- * "RyxObjectInt32Get: the value parameter was NULL". Messages go to stderr, or
- * to the sink set with RyxLoggingSetSink (<ryx/logging.h>). A failed call
+ * No exception ever leaves a function: every failure, a NULL argument or a
+ * value of the wrong kind included, is answered with a status code, NULL, 0
+ * or false, and (unless the function's comment says it is silent) with
+ * exactly one message to the logger "ryx.object" at level 16, for example
+ * "RyxObjectInt32Get: the value parameter was NULL". Messages go to stderr,
+ * or to the sink set with RyxLoggingSetSink (<ryx/logging.h>). A failed call
  * leaves the value as it was; a handle it consumed stays consumed.
  * Arguments are checked in their order: NULL handle, then NULL output
  * pointer, then the type of the handle's value.

@@ -23,6 +23,12 @@ RyxObject* MakeDictionaryRequiring(uint32_t type);
 /* An enumerator as the registry makes it: of no enumeration yet. */
 RyxObject* MakeDefaultEnum(void);
 
+/*
+ * Makes the n-th C++ allocation from now on this thread fail with
+ * std::bad_alloc (1: the next one); the others succeed. 0 cancels.
+ */
+void FailNthAllocation(int n);
+
 #ifdef __cplusplus
 }
 #endif

@@ -30,6 +30,16 @@ static void ReferenceSharesTheValueAndCountsEveryOwner(void) {
   CHECK_SILENT();
 }
 
+static void AFailedReferenceReturnsNullAndLeavesTheCount(void) {
+  RyxObject* const value = RyxObjectInt32Create(1);
+  FailNthAllocation(1);
+  CHECK(RyxObjectReference(value) == NULL);
+  FailNthAllocation(0);
+  CHECK(RyxObjectReferenceCount(value) == 1);
+  RyxObjectRelease(value);
+  CHECK_SILENT();
+}
+
 static void TypeAndTypeNameDescribeTheValue(void) {
   RyxObject* const value = RyxObjectInt32Create(1);
   CHECK(RyxObjectType(value) == RyxObjectInt32Type());
@@ -86,6 +96,7 @@ static void StatusMessagesCoverEveryValue(void) {
 TestCase const GenericTests[] = {
     {"ReferenceOfNullIsNullAndSilent", ReferenceOfNullIsNullAndSilent},
     {"ReferenceSharesTheValueAndCountsEveryOwner", ReferenceSharesTheValueAndCountsEveryOwner},
+    {"AFailedReferenceReturnsNullAndLeavesTheCount", AFailedReferenceReturnsNullAndLeavesTheCount},
     {"TypeAndTypeNameDescribeTheValue", TypeAndTypeNameDescribeTheValue},
     {"AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered",
      AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered},

@@ -3,6 +3,7 @@
  * family is reduced to adapters over two sample values, "first" (0) and
  * "second" (1), so that one test body covers every family.
  */
+#include "fixtures.h"
 #include "harness.h"
 
 #include <float.h>
@@ -17,6 +18,7 @@ enum { Untouched = -1, Other = -2 };
 typedef struct Family {
   char const* kind;
   char const* typeName;
+  char const* createWords;
   uint32_t (*type)(void);
   bool (*instanceOf)(RyxObject const* object);
   RyxObject* (*create)(int sample);
@@ -76,19 +78,24 @@ FAMILY(UInt64, uint64_t, UINT64_MAX, 1)
 FAMILY(Float, float, NAN, -0.0f)
 FAMILY(Double, double, -DBL_MAX, (double)NAN)
 
-#define ENTRY(Kind, TypeName)                                                                     \
-  {                                                                                               \
-#Kind, TypeName, RyxObject##Kind##Type, RyxObject##Kind##InstanceOf, Kind##Create, Kind##Set, \
-        Kind##Get, Kind##Convert                                                                  \
-  }
+/* clang-format off */
+#define ENTRY(Kind, TypeName, CreateWords)                                        \
+  { #Kind, TypeName, CreateWords, RyxObject##Kind##Type, RyxObject##Kind##InstanceOf, \
+    Kind##Create, Kind##Set, Kind##Get, Kind##Convert }
+/* clang-format on */
 
 static Family const Families[] = {
-    ENTRY(Bool, "ryx.object.Bool"),     ENTRY(Int8, "ryx.object.Int8"),
-    ENTRY(Int16, "ryx.object.Int16"),   ENTRY(Int32, "ryx.object.Int32"),
-    ENTRY(Int64, "ryx.object.Int64"),   ENTRY(UInt8, "ryx.object.UInt8"),
-    ENTRY(UInt16, "ryx.object.UInt16"), ENTRY(UInt32, "ryx.object.UInt32"),
-    ENTRY(UInt64, "ryx.object.UInt64"), ENTRY(Float, "ryx.object.Float"),
-    ENTRY(Double, "ryx.object.Double"),
+    ENTRY(Bool, "ryx.object.Bool", "the RYX boolean"),
+    ENTRY(Int8, "ryx.object.Int8", "the RYX 8-bit integer"),
+    ENTRY(Int16, "ryx.object.Int16", "the RYX 16-bit integer"),
+    ENTRY(Int32, "ryx.object.Int32", "the RYX 32-bit integer"),
+    ENTRY(Int64, "ryx.object.Int64", "the RYX 64-bit integer"),
+    ENTRY(UInt8, "ryx.object.UInt8", "the RYX 8-bit unsigned integer"),
+    ENTRY(UInt16, "ryx.object.UInt16", "the RYX 16-bit unsigned integer"),
+    ENTRY(UInt32, "ryx.object.UInt32", "the RYX 32-bit unsigned integer"),
+    ENTRY(UInt64, "ryx.object.UInt64", "the RYX 64-bit unsigned integer"),
+    ENTRY(Float, "ryx.object.Float", "the RYX float"),
+    ENTRY(Double, "ryx.object.Double", "the RYX double"),
 };
 #define FAMILY_COUNT (sizeof Families / sizeof Families[0])
 
@@ -245,6 +252,20 @@ static void ConvertOfTheLastHandleStillDeliversTheValue(void) {
   }
 }
 
+static void CreateReportsAFailedAllocationOfTheValueOrOfTheHandle(void) {
+  size_t i;
+  int nth;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    for (nth = 1; nth <= 2; ++nth) {
+      FailNthAllocation(nth);
+      CHECK(Families[i].create(0) == NULL);
+      CHECK_LOGGED(Message("RyxObject%sCreate: failed to create %s: std::bad_alloc",
+                           Families[i].kind, Families[i].createWords, 0));
+    }
+  }
+  FailNthAllocation(0);
+}
+
 TestCase const PrimitiveTests[] = {
     {"CreateGetAndTypeAgreeForEveryKind", CreateGetAndTypeAgreeForEveryKind},
     {"EveryKindHasItsOwnTypeId", EveryKindHasItsOwnTypeId},
@@ -258,5 +279,7 @@ TestCase const PrimitiveTests[] = {
      AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue},
     {"ConvertConsumesTheHandleOnEveryPath", ConvertConsumesTheHandleOnEveryPath},
     {"ConvertOfTheLastHandleStillDeliversTheValue", ConvertOfTheLastHandleStillDeliversTheValue},
+    {"CreateReportsAFailedAllocationOfTheValueOrOfTheHandle",
+     CreateReportsAFailedAllocationOfTheValueOrOfTheHandle},
 };
 size_t const PrimitiveTestCount = sizeof PrimitiveTests / sizeof PrimitiveTests[0];

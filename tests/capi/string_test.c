@@ -180,6 +180,25 @@ static void EmbeddedNulIsKeptByTheCopiesButEndsTheCString(void) {
   CHECK_SILENT();
 }
 
+/* Longer than any in-place string buffer, so that copying it allocates. */
+static char const LongText[] = "a text long enough to need memory of its own";
+
+static void CreateReportsAFailedAllocation(void) {
+  FailNthAllocation(1);
+  CHECK(RyxObjectStringCreate(LongText) == NULL);
+  CHECK_LOGGED("RyxObjectStringCreate: failed to create the RYX string: std::bad_alloc");
+}
+
+static void SetAnswersAFailedAllocationSilentlyAndKeepsTheText(void) {
+  RyxObject* const string = RyxObjectStringCreate("kept");
+  FailNthAllocation(1);
+  CHECK_STATUS(RyxObjectStatusAllocationFailure, RyxObjectStringSet(string, LongText));
+  FailNthAllocation(0);
+  CHECK_SILENT();
+  CHECK(strcmp(Read(string), "kept") == 0);
+  RyxObjectRelease(string);
+}
+
 TestCase const StringTests[] = {
     {"CreateCopiesTheTextAndGetLendsTheValuesOwnCharacters",
      CreateCopiesTheTextAndGetLendsTheValuesOwnCharacters},
@@ -197,5 +216,8 @@ TestCase const StringTests[] = {
      ConvertsConsumeTheHandleOnEveryFailureButANullObject},
     {"EmbeddedNulIsKeptByTheCopiesButEndsTheCString",
      EmbeddedNulIsKeptByTheCopiesButEndsTheCString},
+    {"CreateReportsAFailedAllocation", CreateReportsAFailedAllocation},
+    {"SetAnswersAFailedAllocationSilentlyAndKeepsTheText",
+     SetAnswersAFailedAllocationSilentlyAndKeepsTheText},
 };
 size_t const StringTestCount = sizeof StringTests / sizeof StringTests[0];
