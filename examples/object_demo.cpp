@@ -5,6 +5,7 @@
 #include <iostream>
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 using namespace ryx::object;
@@ -72,7 +73,42 @@ int main() {
     std::cout << "  rejects four values: " << e.what() << '\n';
   }
 
+  Section("containers under a schema");
+  Array<Object> numbers(int32Elements, {std::make_shared<Int32>(1), std::make_shared<Int32>(2)});
+  numbers.Append(std::make_shared<Int32>(3));
+  try {
+    numbers.Append(std::make_shared<String>("four"));
+  } catch (std::invalid_argument const& e) {
+    std::cout << "appending a String to an array of Int32: " << e.what() << '\n';
+  }
+  std::cout << "the array still holds " << numbers.Size() << " elements:";
+  for (Object const& element : static_cast<Object const&>(numbers)) {
+    std::cout << ' ' << element.As<Int32>().Get();
+  }
+  std::cout << '\n';
+
+  auto const record = std::make_shared<Dictionary<Object>>();
+  record->Insert("name", std::make_shared<String>("widget"));
+  record->Insert("sizes", std::make_shared<Array<Object>>(numbers));
+  try {
+    record->Insert("name", std::make_shared<String>("again"));
+  } catch (std::logic_error const& e) {
+    std::cout << "inserting \"name\" twice: " << e.what() << '\n';
+  }
+
+  Section("deep copies");
+  auto const recordCopy = Object::Copy(*record);
+  recordCopy->As<Dictionary<Object>>().Get("sizes")->As<Array<Object>>().Append(
+      std::make_shared<Int32>(4));
+  std::cout << "after appending to the copy's array: original has "
+            << record->Get("sizes")->As<Array<Object>>().Size() << " sizes, copy has "
+            << recordCopy->As<Dictionary<Object>>().Get("sizes")->As<Array<Object>>().Size()
+            << ", equal: " << record->EqualTo(*recordCopy) << '\n';
+
   Section("making values from a schema");
+  auto const madeArray = Required(Object::TypeIdOf<Array<Object>>(), {int32Elements}).Make();
+  std::cout << "Required(Array, {Int32}).Make(): " << *madeArray << " with element schema "
+            << madeArray->GetRequired() << '\n';
   auto const made = Required(Object::TypeIdOf<Double>()).Make();
   std::cout << "Required(Double).Make(): " << *made << " holding " << made->As<Double>().Get()
             << '\n';

@@ -9,13 +9,21 @@
 #include <cereal/archives/portable_binary.hpp>
 #include <cereal/archives/xml.hpp>
 
+#include <ryx/capi/convert.hpp>
+#include <ryx/capi/peek.hpp>
 #include <ryx/hash/murmur_three32.hpp>
 #include <ryx/object/adaptor.hpp>
+#include <ryx/object/array.hpp>
 #include <ryx/object/bad_cast.hpp>
 #include <ryx/object/bool.hpp>
 #include <ryx/object/container/const_iterator.hpp>
 #include <ryx/object/container/iterator.hpp>
+#include <ryx/object/container/nesting.hpp>
+#include <ryx/object/dictionary.hpp>
+#include <ryx/object/dictionary/property.hpp>
 #include <ryx/object/double.hpp>
+#include <ryx/object/enum.hpp>
+#include <ryx/object/enum_dummy.hpp>
 #include <ryx/object/float.hpp>
 #include <ryx/object/int16.hpp>
 #include <ryx/object/int32.hpp>
@@ -25,6 +33,7 @@
 #include <ryx/object/option.hpp>
 #include <ryx/object/options.hpp>
 #include <ryx/object/parse.hpp>
+#include <ryx/object/pointer.hpp>
 #include <ryx/object/primitive.hpp>
 #include <ryx/object/registry/get.hpp>
 #include <ryx/object/registry/info.hpp>

@@ -4,6 +4,7 @@
 #include <ryx/object/registry/get.hpp>
 #include <ryx/object/required.hpp>
 
+#include "object/detail/copier.hpp"
 #include "object/detail/type_name.hpp"
 
 #include <ostream>
@@ -45,11 +46,7 @@ void Object::ThrowBadCast(hash::MurmurThree32 from, char const* to) {
 }
 
 std::shared_ptr<Object> Object::Copy(Object const& source) {
-  std::shared_ptr<Object> copy = Make(source.GetType());
-  if (copy) {
-    copy->Set(source);
-  }
-  return copy;
+  return detail::Copier().Copy(source);
 }
 
 std::shared_ptr<Object> Object::Copy(std::shared_ptr<Object const> source) {

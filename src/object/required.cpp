@@ -1,5 +1,7 @@
 #include <ryx/object/required.hpp>
 
+#include <ryx/object/array.hpp>
+#include <ryx/object/dictionary.hpp>
 #include <ryx/object/object.hpp>
 
 #include "object/detail/type_name.hpp"
@@ -88,7 +90,17 @@ std::shared_ptr<Object> Required::Make() const {
   if (type == hash::MurmurThree32()) {
     return nullptr;
   }
-  return Object::Make(type);
+  std::shared_ptr<Object> made = Object::Make(type);
+  // A single child is the element schema of a made container; with none or
+  // several, the container keeps the schema its construct function gave it.
+  if (made && childTypes.size() == 1) {
+    if (made->Is<Array<Object>>()) {
+      made->As<Array<Object>>().SetRequired(childTypes.front());
+    } else if (made->Is<Dictionary<Object>>()) {
+      made->As<Dictionary<Object>>().SetRequired(childTypes.front());
+    }
+  }
+  return made;
 }
 
 std::ostream& operator<<(std::ostream& os, Required const& required) {

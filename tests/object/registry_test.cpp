@@ -15,14 +15,17 @@ namespace {
 using namespace ryx::object;
 using ryx::hash::MurmurThree32;
 
-char const* const PrimitiveNames[] = {
-    "ryx.object.Bool",   "ryx.object.Int8",   "ryx.object.Int16",  "ryx.object.Int32",
-    "ryx.object.Int64",  "ryx.object.UInt8",  "ryx.object.UInt16", "ryx.object.UInt32",
-    "ryx.object.UInt64", "ryx.object.Float",  "ryx.object.Double", "ryx.object.String",
+char const* const KindNames[] = {
+    "ryx.object.Bool",       "ryx.object.Int8",    "ryx.object.Int16",   "ryx.object.Int32",
+    "ryx.object.Int64",      "ryx.object.UInt8",   "ryx.object.UInt16",  "ryx.object.UInt32",
+    "ryx.object.UInt64",     "ryx.object.Float",   "ryx.object.Double",  "ryx.object.String",
+    "ryx.object.Array",      "ryx.object.Dictionary", "ryx.object.Enum", "ryx.object.Pointer",
+    "ryx.object.ConstPointer",
 };
+constexpr std::size_t KindCount = sizeof(KindNames) / sizeof(KindNames[0]);
 
 TEST(Registry, NamesEveryRegisteredKindAndMakesItsDefaultValue) {
-  for (char const* name : PrimitiveNames) {
+  for (char const* name : KindNames) {
     MurmurThree32 const id = MurmurThree32::MakeData(name);
     EXPECT_STREQ(Object::TypeName(id), name);
     auto const made = Object::Make(id);
@@ -32,6 +35,10 @@ TEST(Registry, NamesEveryRegisteredKindAndMakesItsDefaultValue) {
     ASSERT_TRUE(construct);
     EXPECT_EQ(construct()->GetType(), id);
   }
+}
+
+TEST(Registry, HoldsExactlyTheSeventeenKinds) {
+  EXPECT_EQ(registry::Get().GetMap()->size(), KindCount);
 }
 
 TEST(Registry, MakesAFreshValueEachTime) {
@@ -109,7 +116,7 @@ TEST(Registry, ServesConcurrentLookupsAndMakes) {
   for (int t = 0; t < 4; ++t) {
     threads.emplace_back([&, t] {
       for (int i = 0; i < 5000; ++i) {
-        char const* name = PrimitiveNames[(i + t) % 12];
+        char const* name = KindNames[(i + t) % KindCount];
         MurmurThree32 const id = MurmurThree32::MakeData(name);
         char const* const found = Object::TypeName(id);
         auto const made = Object::Make(id);

@@ -97,7 +97,8 @@ public:
 
   // A new value that fits the schema, or null when the type is null or cannot
   // be made. A made array or dictionary takes a single child as its element
-  // schema.
+  // schema (through SetRequired, whose check of a dictionary's entries runs even
+  // when there are none: a per-position child therefore throws).
   std::shared_ptr<Object> Make() const;
 
   // A diagnostic text, not a serialized form:

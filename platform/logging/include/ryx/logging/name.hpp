@@ -1,0 +1,26 @@
+// ryx::logging::Name: the dotted name of a logger, such as "ryx.object".
+#pragma once
+
+#include <ryx/logging/export.hpp>
+
+#include <string>
+#include <utility>
+
+namespace ryx::logging {
+
+class RYX_LOGGING_EXPORT Name {
+ public:
+  // A null text gives the empty name.
+  explicit Name(char const* value) : value(value != nullptr ? value : "") {}
+  explicit Name(std::string value) : value(std::move(value)) {}
+
+  std::string const& GetValue() const noexcept { return value; }
+
+  friend bool operator==(Name const& a, Name const& b) noexcept { return a.value == b.value; }
+  friend bool operator!=(Name const& a, Name const& b) noexcept { return a.value != b.value; }
+
+ private:
+  std::string value;
+};
+
+}  // namespace ryx::logging

@@ -1,0 +1,31 @@
+// Releases the children of a dying container without recursion.
+//
+// Destroying the last owner of a container destroys its children, which may be
+// containers in turn: a naive destructor recurses once per level and overflows
+// the stack on deeply nested values. Instead, a dying container hands its
+// children to Release, which keeps them on a heap stack and, for each child it
+// is the last owner of, moves that child's own children onto the stack before
+// letting it go. Every destructor then runs on a container already emptied.
+#pragma once
+
+#include <ryx/object/fwd.hpp>
+
+#include <memory>
+#include <vector>
+
+namespace ryx::object::detail {
+
+struct ChildRelease {
+  using Pending = std::vector<std::shared_ptr<Object>>;
+
+  // Empties `container` (an array or a dictionary), releasing its children.
+  static void ReleaseChildren(Object& container) noexcept;
+  // Releases every object of `pending` and leaves it empty.
+  static void Release(Pending& pending) noexcept;
+
+private:
+  // Moves the children of a container that is about to die onto `pending`.
+  static void TakeChildren(Object& object, Pending& pending) noexcept;
+};
+
+}  // namespace ryx::object::detail

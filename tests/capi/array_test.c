@@ -1,0 +1,178 @@
+#include "fixtures.h"
+#include "harness.h"
+
+#include <stdint.h>
+
+static int32_t Int32Of(RyxObject* handle) {
+  int32_t value = -1;
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
+  return value;
+}
+
+static void CreateConsumesEveryHandleInOrder(void) {
+  RyxObject* const a = RyxObjectInt32Create(1);
+  RyxObject* const b = RyxObjectInt32Create(2);
+  RyxObject* const keep = RyxObjectReference(a);
+  RyxObject* const array = RyxObjectArrayCreateObjects(a, b, NULL);
+  RyxObject* const empty = RyxObjectArrayCreateObjects(NULL);
+  CHECK(RyxObjectArrayInstanceOf(array));
+  CHECK(RyxObjectArraySize(array) == 2);
+  CHECK(Int32Of(RyxObjectArrayPeek(array, 0)) == 1);
+  CHECK(Int32Of(RyxObjectArrayPeek(array, 1)) == 2);
+  CHECK(RyxObjectReferenceCount(keep) == 2); /* `a` now lives in the array */
+  CHECK(RyxObjectArrayEmpty(empty));
+  CHECK(RyxObjectArrayType() == RyxObjectType(array));
+  RyxObjectRelease(array);
+  CHECK(RyxObjectReferenceCount(keep) == 1);
+  RyxObjectRelease(keep);
+  RyxObjectRelease(empty);
+  CHECK_SILENT();
+}
+
+static void HandleTestsComeFirstAndLeaveTheObjectUntouched(void) {
+  RyxObject* const number = RyxObjectInt32Create(5);
+  RyxObject* const object = RyxObjectInt32Create(6);
+  CHECK(RyxObjectArraySize(NULL) == 0);
+  CHECK_LOGGED("RyxObjectArraySize: the object parameter was NULL");
+  CHECK(RyxObjectArraySize(number) == 0);
+  CHECK_LOGGED("RyxObjectArraySize: the object parameter was not a ryx.object.Array: ryx.object.Int32");
+  CHECK(!RyxObjectArrayEmpty(number));
+  CHECK_LOGGED("RyxObjectArrayEmpty: the object parameter was not a ryx.object.Array: ryx.object.Int32");
+  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectArraySetObject(NULL, 0, object));
+  CHECK_LOGGED("RyxObjectArraySetObject: the object parameter was NULL");
+  CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectArrayAppendObject(number, object));
+  CHECK_LOGGED(
+      "RyxObjectArrayAppendObject: the object parameter was not a ryx.object.Array: "
+      "ryx.object.Int32");
+  CHECK(RyxObjectReferenceCount(object) == 1); /* still valid, still ours */
+  CHECK(!RyxObjectArrayInstanceOf(NULL) && !RyxObjectArrayInstanceOf(number));
+  CHECK_SILENT();
+  RyxObjectRelease(number);
+  RyxObjectRelease(object);
+}
+
+static void AddingConsumesTheObjectWhateverTheOutcome(void) {
+  RyxObject* const array = RyxObjectArrayCreateObjects(RyxObjectInt32Create(0), RyxObjectInt32Create(1),
+                                                       RyxObjectInt32Create(2), NULL);
+  RyxObject* const object = RyxObjectInt32Create(9);
+  RyxObject* const keep = RyxObjectReference(object);
+  CHECK_STATUS(RyxObjectStatusOutOfRange, RyxObjectArraySetObject(array, 5, object));
+  CHECK_LOGGED("RyxObjectArraySetObject: could not set array object: The index is out of range: 5 >= 3");
+  CHECK(RyxObjectReferenceCount(keep) == 1);
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectArraySetObject(array, 0, NULL));
+  CHECK_LOGGED("RyxObjectArraySetObject: could not set array object: The 'object' parameter was a NULL pointer");
+  CHECK_STATUS(RyxObjectStatusOutOfRange, RyxObjectArrayInsertObject(array, 4, RyxObjectReference(keep)));
+  CHECK_LOGGED("RyxObjectArrayInsertObject: could not insert array object: The index is out of range: 4 >= 3");
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayInsertObject(array, 3, RyxObjectReference(keep)));
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayPrependObject(array, RyxObjectInt32Create(-1)));
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArraySetObject(array, 1, RyxObjectInt32Create(10)));
+  CHECK(RyxObjectArraySize(array) == 5);
+  CHECK(Int32Of(RyxObjectArrayPeek(array, 0)) == -1);
+  CHECK(Int32Of(RyxObjectArrayPeek(array, 1)) == 10);
+  CHECK(RyxObjectArrayPeek(array, 4) != NULL && Int32Of(RyxObjectArrayPeek(array, 4)) == 9);
+  CHECK(RyxObjectArrayContains(array, keep));
+  RyxObjectRelease(array);
+  RyxObjectRelease(keep);
+  CHECK_SILENT();
+}
+
+static void ASchemaMismatchFailsAndLeavesTheArrayAsItWas(void) {
+  RyxObject* const bools = MakeArrayRequiring(RyxObjectBoolType());
+  RyxObject* const number = RyxObjectInt32Create(1);
+  RyxObject* const keep = RyxObjectReference(number);
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayAppendObject(bools, RyxObjectBoolCreate(true)));
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectArrayAppendObject(bools, number));
+  CHECK_LOGGED(
+      "RyxObjectArrayAppendObject: could not append array object: The object 'ryx.object.Int32' "
+      "did not match the required type 'ryx.object.Bool'");
+  CHECK(RyxObjectReferenceCount(keep) == 1);
+  CHECK(RyxObjectArraySize(bools) == 1);
+  RyxObjectRelease(keep);
+  RyxObjectRelease(bools);
+}
+
+static void ContainsComparesIdentityNotValue(void) {
+  RyxObject* const element = RyxObjectInt32Create(3);
+  RyxObject* const second = RyxObjectReference(element);
+  RyxObject* const equal = RyxObjectInt32Create(3);
+  RyxObject* const array = RyxObjectArrayCreateObjects(element, NULL);
+  CHECK(RyxObjectArrayContains(array, second));
+  CHECK(!RyxObjectArrayContains(array, equal));
+  CHECK(!RyxObjectArrayContains(array, NULL));
+  CHECK(!RyxObjectArrayContains(NULL, NULL));
+  CHECK_SILENT();
+  RyxObjectRelease(array);
+  RyxObjectRelease(second);
+  RyxObjectRelease(equal);
+}
+
+static void StorageCanGrowShrinkAndEmpty(void) {
+  RyxObject* const array = RyxObjectArrayCreateObjects(RyxObjectInt32Create(1), NULL);
+  RyxObject* peeked;
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayReserve(array, 100));
+  CHECK(RyxObjectArrayCapacity(array) >= 100);
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayShrink(array));
+  CHECK(RyxObjectArrayCapacity(array) == 1);
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectArrayReserve(array, SIZE_MAX));
+  CHECK_LOGGED("RyxObjectArrayReserve: failed to reserve memory for the RYX object array: vector::reserve");
+  peeked = RyxObjectArrayPeek(array, 0);
+  CHECK(peeked != NULL && RyxObjectArraySize(array) == 1);
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayClear(array));
+  CHECK(RyxObjectArrayPeek(array, 0) == NULL);
+  CHECK(RyxObjectArrayEmpty(array));
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectArrayErase(array, 0));
+  CHECK_LOGGED(
+      "RyxObjectArrayErase: failed to erase the RYX object from the array: The index is out of "
+      "range: 0 >= 0");
+  RyxObjectRelease(array);
+}
+
+static void PoppingHandsOverOwnership(void) {
+  RyxObject* const array = RyxObjectArrayCreateObjects(
+      RyxObjectInt32Create(1), RyxObjectInt32Create(2), RyxObjectInt32Create(3), NULL);
+  RyxObject* popped;
+  CHECK(RyxObjectArrayPopObject(array, 3) == NULL);
+  CHECK_SILENT();
+  popped = RyxObjectArrayPopObject(array, 1);
+  CHECK(Int32Of(popped) == 2 && RyxObjectReferenceCount(popped) == 1);
+  RyxObjectRelease(popped);
+  popped = RyxObjectArrayPopFrontObject(array);
+  CHECK(Int32Of(popped) == 1);
+  RyxObjectRelease(popped);
+  popped = RyxObjectArrayPopBackObject(array);
+  CHECK(Int32Of(popped) == 3);
+  RyxObjectRelease(popped);
+  CHECK(RyxObjectArrayPopBackObject(array) == NULL);
+  CHECK_LOGGED(
+      "RyxObjectArrayPopBackObject: could not pop object at the back of the array: The array has "
+      "no elements to pop the last element");
+  CHECK(RyxObjectArrayPopFrontObject(array) == NULL);
+  CHECK_LOGGED(
+      "RyxObjectArrayPopFrontObject: could not pop object at the front of the array: The array "
+      "has no elements to pop the first element");
+  CHECK(RyxObjectArrayPopBackObject(NULL) == NULL && RyxObjectArrayPeek(NULL, 0) == NULL);
+  RyxObjectRelease(array);
+}
+
+static void NestedArraysAreReleasedWithTheirParent(void) {
+  RyxObject* const inner = RyxObjectArrayCreateObjects(RyxObjectStringCreate("x"), NULL);
+  RyxObject* const keep = RyxObjectReference(inner);
+  RyxObject* const outer = RyxObjectArrayCreateObjects(inner, NULL);
+  CHECK(RyxObjectReferenceCount(keep) == 2);
+  RyxObjectRelease(outer);
+  CHECK(RyxObjectReferenceCount(keep) == 1);
+  CHECK(RyxObjectArraySize(keep) == 1);
+  RyxObjectRelease(keep);
+}
+
+TestCase const ArrayTests[] = {
+    {"CreateConsumesEveryHandleInOrder", CreateConsumesEveryHandleInOrder},
+    {"HandleTestsComeFirstAndLeaveTheObjectUntouched", HandleTestsComeFirstAndLeaveTheObjectUntouched},
+    {"AddingConsumesTheObjectWhateverTheOutcome", AddingConsumesTheObjectWhateverTheOutcome},
+    {"ASchemaMismatchFailsAndLeavesTheArrayAsItWas", ASchemaMismatchFailsAndLeavesTheArrayAsItWas},
+    {"ContainsComparesIdentityNotValue", ContainsComparesIdentityNotValue},
+    {"StorageCanGrowShrinkAndEmpty", StorageCanGrowShrinkAndEmpty},
+    {"PoppingHandsOverOwnership", PoppingHandsOverOwnership},
+    {"NestedArraysAreReleasedWithTheirParent", NestedArraysAreReleasedWithTheirParent},
+};
+size_t const ArrayTestCount = sizeof ArrayTests / sizeof ArrayTests[0];

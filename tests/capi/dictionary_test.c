@@ -1,0 +1,128 @@
+#include "fixtures.h"
+#include "harness.h"
+
+#include <stdint.h>
+#include <string.h>
+
+static int32_t Int32Of(RyxObject* handle) {
+  int32_t value = -1;
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
+  return value;
+}
+
+static void CreatePairsConsumesEveryValue(void) {
+  RyxObject* const x = RyxObjectInt32Create(1);
+  RyxObject* const keep = RyxObjectReference(x);
+  RyxObject* const dictionary = RyxObjectDictCreatePairs("a", x, "b", RyxObjectInt32Create(2), NULL);
+  RyxObject* const empty = RyxObjectDictCreatePairs(NULL);
+  CHECK(RyxObjectDictInstanceOf(dictionary));
+  CHECK(RyxObjectDictSize(dictionary) == 2);
+  CHECK(Int32Of(RyxObjectDictPeek(dictionary, "a")) == 1);
+  CHECK(RyxObjectReferenceCount(keep) == 2);
+  CHECK(RyxObjectDictEmpty(empty));
+  CHECK(RyxObjectDictType() == RyxObjectType(dictionary));
+  RyxObjectRelease(dictionary);
+  RyxObjectRelease(empty);
+  CHECK(RyxObjectReferenceCount(keep) == 1);
+  RyxObjectRelease(keep);
+  CHECK_SILENT();
+}
+
+static void CreatePairsRefusesRepeatedKeysAndMissingValues(void) {
+  RyxObject* const x = RyxObjectInt32Create(1);
+  RyxObject* const y = RyxObjectInt32Create(2);
+  RyxObject* const keepX = RyxObjectReference(x);
+  RyxObject* const keepY = RyxObjectReference(y);
+  CHECK(RyxObjectDictCreatePairs("a", x, "a", y, NULL) == NULL);
+  CHECK_LOGGED("RyxObjectDictCreatePairs: failed to create the RYX dictionary: Dictionary keys must be unique");
+  CHECK(RyxObjectReferenceCount(keepX) == 1 && RyxObjectReferenceCount(keepY) == 1);
+  CHECK(RyxObjectDictCreatePairs("a", NULL) == NULL);
+  CHECK_LOGGED("RyxObjectDictCreatePairs: failed to create the RYX dictionary: Must provide key/object pairs");
+  RyxObjectRelease(keepX);
+  RyxObjectRelease(keepY);
+}
+
+static void HandleTestsNameTheDictionaryType(void) {
+  RyxObject* const array = RyxObjectArrayCreateObjects(NULL);
+  CHECK(RyxObjectDictSize(NULL) == 0);
+  CHECK_LOGGED("RyxObjectDictSize: the object parameter was NULL");
+  CHECK(RyxObjectDictSize(array) == 0);
+  CHECK_LOGGED("RyxObjectDictSize: the object parameter was not a ryx.object.Dictionary: ryx.object.Array");
+  CHECK(!RyxObjectDictContainsKey(array, NULL));
+  CHECK(!RyxObjectDictContainsObject(array, NULL));
+  CHECK(!RyxObjectDictInstanceOf(array) && !RyxObjectDictInstanceOf(NULL));
+  CHECK(RyxObjectDictPeek(array, "a") == NULL && RyxObjectDictPopObject(NULL, "a") == NULL);
+  CHECK_SILENT();
+  RyxObjectRelease(array);
+}
+
+static void SetReplacesWithoutASchemaCheckWhileInsertChecks(void) {
+  RyxObject* const numbers = MakeDictionaryRequiring(RyxObjectInt32Type());
+  RyxObject* peeked;
+  RyxObject* const flag = RyxObjectBoolCreate(true);
+  RyxObject* const keep = RyxObjectReference(flag);
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictSetObject(numbers, "k", RyxObjectInt32Create(1)));
+  peeked = RyxObjectDictPeek(numbers, "k");
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictSetObject(numbers, "k", RyxObjectBoolCreate(false)));
+  CHECK(RyxObjectBoolInstanceOf(peeked)); /* the borrowed slot shows the new value */
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectDictInsertObject(numbers, "new", flag));
+  CHECK_LOGGED(
+      "RyxObjectDictInsertObject: could not insert array object: The object 'ryx.object.Bool' did "
+      "not match the required type 'ryx.object.Int32'");
+  CHECK(RyxObjectReferenceCount(keep) == 1);
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectDictInsertObject(numbers, "k", RyxObjectInt32Create(3)));
+  CHECK_LOGGED(
+      "RyxObjectDictInsertObject: could not insert array object: The key has already been inserted "
+      "into the dictionary");
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectDictSetObject(numbers, NULL, RyxObjectInt32Create(3)));
+  CHECK_LOGGED(
+      "RyxObjectDictSetObject: could not set array object: basic_string: construction from null is "
+      "not valid");
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectDictSetObject(numbers, "z", MakeEmptyHandle()));
+  CHECK_LOGGED(
+      "RyxObjectDictSetObject: could not set array object: Cannot set null object pointers in an "
+      "dictionary");
+  CHECK(RyxObjectDictSize(numbers) == 1);
+  RyxObjectRelease(keep);
+  RyxObjectRelease(numbers);
+}
+
+static void KeysAndObjectsCanBeFoundRemovedAndPopped(void) {
+  RyxObject* const value = RyxObjectInt32Create(7);
+  RyxObject* const second = RyxObjectReference(value);
+  RyxObject* const dictionary = RyxObjectDictCreatePairs("", value, "b", RyxObjectInt32Create(8), NULL);
+  RyxObject* popped;
+  CHECK(RyxObjectDictContainsKey(dictionary, ""));
+  CHECK(!RyxObjectDictContainsKey(dictionary, NULL));
+  CHECK(RyxObjectDictContainsObject(dictionary, second));
+  CHECK(RyxObjectDictPeek(dictionary, "missing") == NULL);
+  CHECK_SILENT();
+  CHECK(RyxObjectDictPeek(dictionary, NULL) == NULL);
+  CHECK_LOGGED("RyxObjectDictPeek: could not get array object: basic_string: construction from null is not valid");
+  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectDictErase(dictionary, "missing"));
+  CHECK_LOGGED(
+      "RyxObjectDictErase: failed to erase the RYX object from the dictionary: Key was not found "
+      "in the dictionary: missing");
+  CHECK(RyxObjectDictPopObject(dictionary, "missing") == NULL);
+  CHECK_LOGGED("RyxObjectDictPopObject: could not get array object: Key was not found in the dictionary: missing");
+  popped = RyxObjectDictPopObject(dictionary, "");
+  CHECK(popped != NULL && RyxObjectReferenceCount(second) == 2);
+  RyxObjectRelease(popped);
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictErase(dictionary, "b"));
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictReserve(dictionary, 64));
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictSetObject(dictionary, "c", RyxObjectInt32Create(1)));
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictClear(dictionary));
+  CHECK(RyxObjectDictEmpty(dictionary));
+  RyxObjectRelease(second);
+  RyxObjectRelease(dictionary);
+  CHECK_SILENT();
+}
+
+TestCase const DictionaryTests[] = {
+    {"CreatePairsConsumesEveryValue", CreatePairsConsumesEveryValue},
+    {"CreatePairsRefusesRepeatedKeysAndMissingValues", CreatePairsRefusesRepeatedKeysAndMissingValues},
+    {"HandleTestsNameTheDictionaryType", HandleTestsNameTheDictionaryType},
+    {"SetReplacesWithoutASchemaCheckWhileInsertChecks", SetReplacesWithoutASchemaCheckWhileInsertChecks},
+    {"KeysAndObjectsCanBeFoundRemovedAndPopped", KeysAndObjectsCanBeFoundRemovedAndPopped},
+};
+size_t const DictionaryTestCount = sizeof DictionaryTests / sizeof DictionaryTests[0];

@@ -1,0 +1,94 @@
+#include "fixtures.h"
+
+#include <ryx/object.hpp>
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <string>
+
+namespace {
+
+using ryx::object::Object;
+
+class Unregistered : public Object {
+ public:
+  Unregistered() : Object(ryx::hash::MurmurThree32::MakeData("ryx.tests.Unregistered")) {}
+  void Set(Object const& /*other*/) override {}
+  bool EqualTo(Object const& /*other*/) const override { return false; }
+};
+
+}  // namespace
+
+extern "C" RyxObject* MakeStringWithNul(void) {
+  return ryx::object::Convert(std::make_shared<ryx::object::String>(std::string("a\0b", 3)));
+}
+
+extern "C" RyxObject* MakeUnregisteredValue(void) {
+  return ryx::object::Convert(std::make_shared<Unregistered>());
+}
+
+extern "C" RyxObject* MakeEmptyHandle(void) {
+  // The handle's layout: a heap-allocated std::shared_ptr<Object>.
+  return reinterpret_cast<RyxObject*>(new std::shared_ptr<Object>());
+}
+
+extern "C" RyxObject* MakeArrayRequiring(uint32_t type) {
+  ryx::hash::MurmurThree32 const element(type);
+  return ryx::object::Convert(
+      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Array<Object>>(),
+                            {ryx::object::Required(element)})
+          .Make());
+}
+
+extern "C" RyxObject* MakeDictionaryRequiring(uint32_t type) {
+  ryx::hash::MurmurThree32 const element(type);
+  return ryx::object::Convert(
+      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Dictionary<Object>>(),
+                            {ryx::object::Required(element)})
+          .Make());
+}
+
+extern "C" RyxObject* MakeDefaultEnum(void) {
+  return ryx::object::Convert(
+      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Enum<Object>>()).Make());
+}
+
+// The test program replaces the global allocation functions, so that the
+// library's allocations can be made to fail one at a time.
+namespace {
+
+thread_local int allocationsUntilFailure = 0;
+
+void* Allocate(std::size_t size) {
+  if (allocationsUntilFailure > 0 && --allocationsUntilFailure == 0) {
+    throw std::bad_alloc();
+  }
+  if (void* const block = std::malloc(size != 0 ? size : 1)) {
+    return block;
+  }
+  throw std::bad_alloc();
+}
+
+}  // namespace
+
+extern "C" void FailNthAllocation(int n) { allocationsUntilFailure = n; }
+
+void* operator new(std::size_t size) { return Allocate(size); }
+void* operator new[](std::size_t size) { return Allocate(size); }
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
+  try {
+    return Allocate(size);
+  } catch (std::bad_alloc const&) {
+    return nullptr;
+  }
+}
+void* operator new[](std::size_t size, std::nothrow_t const& tag) noexcept {
+  return operator new(size, tag);
+}
+void operator delete(void* block) noexcept { std::free(block); }
+void operator delete[](void* block) noexcept { std::free(block); }
+void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
+void operator delete(void* block, std::nothrow_t const&) noexcept { std::free(block); }
+void operator delete[](void* block, std::nothrow_t const&) noexcept { std::free(block); }

@@ -1,0 +1,285 @@
+/*
+ * The eleven boolean and numeric families, tested through one table. Each
+ * family is reduced to adapters over two sample values, "first" (0) and
+ * "second" (1), so that one test body covers every family.
+ */
+#include "fixtures.h"
+#include "harness.h"
+
+#include <float.h>
+#include <math.h>
+#include <stdint.h>
+#include <stdio.h>
+#include <string.h>
+
+/* What a read wrote: 0 or 1 for a sample, Untouched when nothing was written. */
+enum { Untouched = -1, Other = -2 };
+
+typedef struct Family {
+  char const* kind;
+  char const* typeName;
+  char const* createWords;
+  uint32_t (*type)(void);
+  bool (*instanceOf)(RyxObject const* object);
+  RyxObject* (*create)(int sample);
+  RyxObjectStatus (*set)(RyxObject* object, int sample);
+  /* A null `sample` passes a null output pointer. */
+  RyxObjectStatus (*get)(RyxObject const* object, int* sample);
+  RyxObjectStatus (*convert)(RyxObject* object, int* sample);
+} Family;
+
+/* Reads are compared byte for byte, so a NaN sample must come back unchanged. */
+#define FAMILY(Kind, CType, First, Second)                                           \
+  static CType Kind##Sample(int sample) { return sample == 0 ? (First) : (Second); } \
+  static int Kind##Which(CType const* read) {                                        \
+    CType const first = First;                                                       \
+    CType const second = Second;                                                     \
+    CType untouched;                                                                 \
+    memset(&untouched, 0x5A, sizeof untouched);                                      \
+    if (memcmp(read, &first, sizeof *read) == 0) return 0;                           \
+    if (memcmp(read, &second, sizeof *read) == 0) return 1;                          \
+    if (memcmp(read, &untouched, sizeof *read) == 0) return Untouched;               \
+    return Other;                                                                    \
+  }                                                                                  \
+  static RyxObject* Kind##Create(int sample) {                                       \
+    return RyxObject##Kind##Create(Kind##Sample(sample));                            \
+  }                                                                                  \
+  static RyxObjectStatus Kind##Set(RyxObject* object, int sample) {                  \
+    return RyxObject##Kind##Set(object, Kind##Sample(sample));                       \
+  }                                                                                  \
+  static RyxObjectStatus Kind##Get(RyxObject const* object, int* sample) {           \
+    CType read;                                                                      \
+    RyxObjectStatus status;                                                          \
+    if (sample == NULL) return RyxObject##Kind##Get(object, NULL);                   \
+    memset(&read, 0x5A, sizeof read);                                                \
+    status = RyxObject##Kind##Get(object, &read);                                    \
+    *sample = Kind##Which(&read);                                                    \
+    return status;                                                                   \
+  }                                                                                  \
+  static RyxObjectStatus Kind##Convert(RyxObject* object, int* sample) {             \
+    CType read;                                                                      \
+    RyxObjectStatus status;                                                          \
+    if (sample == NULL) return RyxObject##Kind##Convert(object, NULL);               \
+    memset(&read, 0x5A, sizeof read);                                                \
+    status = RyxObject##Kind##Convert(object, &read);                                \
+    *sample = Kind##Which(&read);                                                    \
+    return status;                                                                   \
+  }
+
+FAMILY(Bool, bool, true, false)
+FAMILY(Int8, int8_t, INT8_MIN, INT8_MAX)
+FAMILY(Int16, int16_t, INT16_MIN, INT16_MAX)
+FAMILY(Int32, int32_t, -5, INT32_MAX)
+FAMILY(Int64, int64_t, INT64_MIN, INT64_MAX)
+FAMILY(UInt8, uint8_t, UINT8_MAX, 0)
+FAMILY(UInt16, uint16_t, UINT16_MAX, 1)
+FAMILY(UInt32, uint32_t, UINT32_MAX, 7)
+FAMILY(UInt64, uint64_t, UINT64_MAX, 1)
+FAMILY(Float, float, NAN, -0.0f)
+FAMILY(Double, double, -DBL_MAX, (double)NAN)
+
+/* clang-format off */
+#define ENTRY(Kind, TypeName, CreateWords)                                        \
+  { #Kind, TypeName, CreateWords, RyxObject##Kind##Type, RyxObject##Kind##InstanceOf, \
+    Kind##Create, Kind##Set, Kind##Get, Kind##Convert }
+/* clang-format on */
+
+static Family const Families[] = {
+    ENTRY(Bool, "ryx.object.Bool", "the RYX boolean"),
+    ENTRY(Int8, "ryx.object.Int8", "the RYX 8-bit integer"),
+    ENTRY(Int16, "ryx.object.Int16", "the RYX 16-bit integer"),
+    ENTRY(Int32, "ryx.object.Int32", "the RYX 32-bit integer"),
+    ENTRY(Int64, "ryx.object.Int64", "the RYX 64-bit integer"),
+    ENTRY(UInt8, "ryx.object.UInt8", "the RYX 8-bit unsigned integer"),
+    ENTRY(UInt16, "ryx.object.UInt16", "the RYX 16-bit unsigned integer"),
+    ENTRY(UInt32, "ryx.object.UInt32", "the RYX 32-bit unsigned integer"),
+    ENTRY(UInt64, "ryx.object.UInt64", "the RYX 64-bit unsigned integer"),
+    ENTRY(Float, "ryx.object.Float", "the RYX float"),
+    ENTRY(Double, "ryx.object.Double", "the RYX double"),
+};
+#define FAMILY_COUNT (sizeof Families / sizeof Families[0])
+
+/* A family of another kind, for the wrong-type paths. */
+static Family const* OtherThan(size_t index) { return &Families[(index + 1) % FAMILY_COUNT]; }
+
+static char const* Message(char const* format, char const* a, char const* b, char const* c) {
+  static char text[256];
+  snprintf(text, sizeof text, format, a, b, c);
+  return text;
+}
+
+static void CreateGetAndTypeAgreeForEveryKind(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    Family const* const f = &Families[i];
+    int sample = Other;
+    RyxObject* const object = f->create(0);
+    CHECK(object != NULL);
+    CHECK(f->instanceOf(object));
+    CHECK(RyxObjectType(object) == f->type());
+    CHECK(strcmp(RyxObjectTypeName(object), f->typeName) == 0);
+    CHECK(RyxObjectReferenceCount(object) == 1);
+    CHECK_STATUS(RyxObjectStatusSuccess, f->get(object, &sample));
+    CHECK(sample == 0);
+    RyxObjectRelease(object);
+    CHECK_SILENT();
+  }
+}
+
+static void EveryKindHasItsOwnTypeId(void) {
+  size_t i, j;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    for (j = i + 1; j < FAMILY_COUNT; ++j) {
+      CHECK(Families[i].type() != Families[j].type());
+    }
+  }
+}
+
+static void InstanceOfIsFalseForNullAndOtherKindsWithoutLogging(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    RyxObject* const other = OtherThan(i)->create(0);
+    CHECK(!Families[i].instanceOf(NULL));
+    CHECK(!Families[i].instanceOf(other));
+    RyxObjectRelease(other);
+    CHECK_SILENT();
+  }
+}
+
+static void SetIsSeenThroughEveryHandleOfTheValue(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    Family const* const f = &Families[i];
+    RyxObject* const object = f->create(0);
+    RyxObject* const second = RyxObjectReference(object);
+    int sample = Other;
+    CHECK_STATUS(RyxObjectStatusSuccess, f->set(object, 1));
+    CHECK_STATUS(RyxObjectStatusSuccess, f->get(second, &sample));
+    CHECK(sample == 1);
+    RyxObjectRelease(second);
+    RyxObjectRelease(object);
+    CHECK_SILENT();
+  }
+}
+
+static void NullObjectIsRefusedByName(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    Family const* const f = &Families[i];
+    int sample = Other;
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->set(NULL, 0));
+    CHECK_LOGGED(Message("RyxObject%sSet: the object parameter was NULL", f->kind, 0, 0));
+    /* The object is tested before the output pointer. */
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(NULL, NULL));
+    CHECK_LOGGED(Message("RyxObject%sGet: the object parameter was NULL", f->kind, 0, 0));
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(NULL, &sample));
+    CHECK_LOGGED(Message("RyxObject%sConvert: the object parameter was NULL", f->kind, 0, 0));
+    CHECK(sample == Untouched);
+  }
+}
+
+static void GetWithoutOutputPointerFailsAndKeepsTheHandle(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    Family const* const f = &Families[i];
+    RyxObject* const object = f->create(1);
+    int sample = Other;
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(object, NULL));
+    CHECK_LOGGED(Message("RyxObject%sGet: the value parameter was NULL", f->kind, 0, 0));
+    CHECK(RyxObjectReferenceCount(object) == 1);
+    CHECK_STATUS(RyxObjectStatusSuccess, f->get(object, &sample));
+    CHECK(sample == 1);
+    RyxObjectRelease(object);
+  }
+}
+
+static void AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    Family const* const f = &Families[i];
+    Family const* const other = OtherThan(i);
+    RyxObject* const object = other->create(0);
+    int sample = Other;
+    CHECK_STATUS(RyxObjectStatusIncorrectType, f->get(object, &sample));
+    CHECK_LOGGED(Message("RyxObject%sGet: the object parameter was not a %s: %s", f->kind,
+                         f->typeName, other->typeName));
+    CHECK(sample == Untouched);
+    CHECK_STATUS(RyxObjectStatusIncorrectType, f->set(object, 1));
+    CHECK_LOGGED(Message("RyxObject%sSet: the object parameter was not a %s: %s", f->kind,
+                         f->typeName, other->typeName));
+    CHECK_STATUS(RyxObjectStatusSuccess, other->get(object, &sample));
+    CHECK(sample == 0);
+    RyxObjectRelease(object);
+  }
+}
+
+static void ConvertConsumesTheHandleOnEveryPath(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    Family const* const f = &Families[i];
+    Family const* const other = OtherThan(i);
+    RyxObject* keep = f->create(1);
+    int sample = Other;
+
+    CHECK_STATUS(RyxObjectStatusSuccess, f->convert(RyxObjectReference(keep), &sample));
+    CHECK(sample == 1);
+    CHECK(RyxObjectReferenceCount(keep) == 1);
+
+    /* A null output pointer is tested after the handle is consumed. */
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(RyxObjectReference(keep), NULL));
+    CHECK_LOGGED(Message("RyxObject%sConvert: the value parameter was NULL", f->kind, 0, 0));
+    CHECK(RyxObjectReferenceCount(keep) == 1);
+    RyxObjectRelease(keep);
+
+    keep = other->create(0);
+    sample = Other;
+    CHECK_STATUS(RyxObjectStatusIncorrectType, f->convert(RyxObjectReference(keep), &sample));
+    CHECK_LOGGED(Message("RyxObject%sConvert: the object parameter was not a %s: %s", f->kind,
+                         f->typeName, other->typeName));
+    CHECK(sample == Untouched);
+    CHECK(RyxObjectReferenceCount(keep) == 1);
+    RyxObjectRelease(keep);
+  }
+}
+
+static void ConvertOfTheLastHandleStillDeliversTheValue(void) {
+  size_t i;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    int sample = Other;
+    CHECK_STATUS(RyxObjectStatusSuccess, Families[i].convert(Families[i].create(1), &sample));
+    CHECK(sample == 1);
+    CHECK_SILENT();
+  }
+}
+
+static void CreateReportsAFailedAllocationOfTheValueOrOfTheHandle(void) {
+  size_t i;
+  int nth;
+  for (i = 0; i < FAMILY_COUNT; ++i) {
+    for (nth = 1; nth <= 2; ++nth) {
+      FailNthAllocation(nth);
+      CHECK(Families[i].create(0) == NULL);
+      CHECK_LOGGED(Message("RyxObject%sCreate: failed to create %s: std::bad_alloc",
+                           Families[i].kind, Families[i].createWords, 0));
+    }
+  }
+  FailNthAllocation(0);
+}
+
+TestCase const PrimitiveTests[] = {
+    {"CreateGetAndTypeAgreeForEveryKind", CreateGetAndTypeAgreeForEveryKind},
+    {"EveryKindHasItsOwnTypeId", EveryKindHasItsOwnTypeId},
+    {"InstanceOfIsFalseForNullAndOtherKindsWithoutLogging",
+     InstanceOfIsFalseForNullAndOtherKindsWithoutLogging},
+    {"SetIsSeenThroughEveryHandleOfTheValue", SetIsSeenThroughEveryHandleOfTheValue},
+    {"NullObjectIsRefusedByName", NullObjectIsRefusedByName},
+    {"GetWithoutOutputPointerFailsAndKeepsTheHandle",
+     GetWithoutOutputPointerFailsAndKeepsTheHandle},
+    {"AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue",
+     AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue},
+    {"ConvertConsumesTheHandleOnEveryPath", ConvertConsumesTheHandleOnEveryPath},
+    {"ConvertOfTheLastHandleStillDeliversTheValue", ConvertOfTheLastHandleStillDeliversTheValue},
+    {"CreateReportsAFailedAllocationOfTheValueOrOfTheHandle",
+     CreateReportsAFailedAllocationOfTheValueOrOfTheHandle},
+};
+size_t const PrimitiveTestCount = sizeof PrimitiveTests / sizeof PrimitiveTests[0];

@@ -1,0 +1,137 @@
+#include <ryx/logging.h>
+#include <ryx/logging/logger.hpp>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using ryx::logging::Level;
+using ryx::logging::Logger;
+using ryx::logging::Name;
+
+std::string Format(char const* format, std::vector<std::string> const& arguments) {
+  std::vector<Logger::Argument> functions;
+  for (auto const& argument : arguments) {
+    functions.emplace_back([&argument](std::string* out) { out->append(argument); });
+  }
+  Logger const logger(Name("test"));
+  std::string out;
+  logger.Format(&out, logger.GetName(), Level::Error, format, functions.data(), functions.size());
+  return out;
+}
+
+TEST(LoggerFormat, ReplacesNumberedPlaceholdersInAnyOrderAndRepeatedly) {
+  EXPECT_EQ(Format("%1%-%0%-%1%", {"a", "b"}), "b-a-b");
+  EXPECT_EQ(Format("%0%: the %1% parameter was NULL", {"F", "value"}),
+            "F: the value parameter was NULL");
+  std::vector<std::string> eleven(11, "x");
+  eleven[10] = "ten";
+  EXPECT_EQ(Format("<%10%>", eleven), "<ten>");
+}
+
+TEST(LoggerFormat, CopiesPlaceholdersWithoutArgumentAndStrayPercentSignsAsTheyAre) {
+  EXPECT_EQ(Format("%2% %0", {"a"}), "%2% %0");
+  EXPECT_EQ(Format("100% %x%%0%", {"a"}), "100% %x%a");
+  EXPECT_EQ(Format("%99999999999999999999999%", {"a"}), "%99999999999999999999999%");
+  EXPECT_EQ(Format("", {}), "");
+}
+
+struct Captured {
+  int calls = 0;
+  std::string logger;
+  int level = -1;
+  std::string message;
+};
+
+void Capture(char const* logger, int level, char const* message, void* context) {
+  auto* const captured = static_cast<Captured*>(context);
+  ++captured->calls;
+  captured->logger = logger;
+  captured->level = level;
+  captured->message = message;
+}
+
+class LoggerLog : public ::testing::Test {
+ protected:
+  void SetUp() override { RyxLoggingSetSink(Capture, &captured); }
+  void TearDown() override { RyxLoggingSetSink(nullptr, nullptr); }
+  Captured captured;
+};
+
+TEST_F(LoggerLog, HandsTheNameTheLevelAndTheFormattedMessageToTheSinkOnce) {
+  Logger const logger(Name("ryx.object"));
+  char const* const function = "RyxObjectInt32Get";
+  logger.Log(static_cast<Level>(16), "%0%: the %1% parameter was NULL", function, "value");
+  EXPECT_EQ(captured.calls, 1);
+  EXPECT_EQ(captured.logger, "ryx.object");
+  EXPECT_EQ(captured.level, 16);
+  EXPECT_EQ(captured.message, "RyxObjectInt32Get: the value parameter was NULL");
+}
+
+TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbers) {
+  std::string out;
+  char const* const cString = "c\0ut";
+  std::string const text = "s";
+  Logger::Functor<char[4]>{"a\0b"}(&out);
+  Logger::Functor<char const*>{cString}(&out);
+  Logger::Functor<std::string>{text}(&out);
+  Logger::Functor<int>{-42}(&out);
+  EXPECT_EQ(out, std::string("a\0bcs-42", 8));
+}
+
+TEST_F(LoggerLog, DropsLevelsBelowInfo) {
+  Logger const logger(Name("n"));
+  logger.Log(Level::Debug, "quiet");
+  EXPECT_EQ(captured.calls, 0);
+  logger.Log(Level::Info, "heard");
+  EXPECT_EQ(captured.calls, 1);
+}
+
+// A sink that counts its calls and notes any call after it was replaced.
+struct Counting {
+  std::atomic<long> calls{0};
+  std::atomic<bool> replaced{false};
+  std::atomic<long> callsAfterReplacement{0};
+};
+
+void Count(char const*, int, char const*, void* context) {
+  auto* const counting = static_cast<Counting*>(context);
+  if (counting->replaced.load()) {
+    ++counting->callsAfterReplacement;
+  }
+  ++counting->calls;
+}
+
+TEST(LoggingSink, CanBeReplacedWhileOtherThreadsLogWithoutLosingOrMisdirectingAMessage) {
+  constexpr int Threads = 4;
+  constexpr int MessagesPerThread = 5000;
+  Counting first;
+  Counting second;
+  RyxLoggingSetSink(Count, &first);
+  std::vector<std::thread> threads;
+  for (int t = 0; t < Threads; ++t) {
+    threads.emplace_back([] {
+      Logger const logger(Name("ryx.object"));
+      for (int i = 0; i < MessagesPerThread; ++i) {
+        logger.Log(Level::Error, "message %0%", i);
+      }
+    });
+  }
+  std::this_thread::yield();
+  RyxLoggingSetSink(Count, &second);
+  first.replaced = true;
+  for (auto& thread : threads) {
+    thread.join();
+  }
+  RyxLoggingSetSink(nullptr, nullptr);
+  EXPECT_EQ(first.calls + second.calls, Threads * MessagesPerThread);
+  EXPECT_EQ(first.callsAfterReplacement, 0);
+}
+
+}  // namespace

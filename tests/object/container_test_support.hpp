@@ -1,0 +1,65 @@
+// Helpers shared by the container tests: value makers, exception texts, and a
+// snapshot that proves a failed operation changed nothing.
+#pragma once
+
+#include <ryx/object.hpp>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ryx::object::testing {
+
+inline std::shared_ptr<Object> MakeInt(int value) { return std::make_shared<Int32>(value); }
+inline std::shared_ptr<Object> MakeString(std::string value) {
+  return std::make_shared<String>(std::move(value));
+}
+inline std::shared_ptr<Object> MakeBool(bool value) { return std::make_shared<Bool>(value); }
+
+inline Required const Int32Schema{Object::TypeIdOf<Int32>()};
+inline Required const StringSchema{Object::TypeIdOf<String>()};
+inline Required const ArraySchema{Object::TypeIdOf<Array<Object>>()};
+
+// The text of the exception E thrown by `call`, or a test failure.
+template <class E, class Call>
+std::string MessageOf(Call call) {
+  try {
+    call();
+  } catch (E const& e) {
+    return e.what();
+  } catch (std::exception const& e) {
+    ADD_FAILURE() << "unexpected exception: " << e.what();
+    return std::string();
+  }
+  ADD_FAILURE() << "no exception";
+  return std::string();
+}
+
+// Everything a failed operation must leave alone: the elements in their order,
+// how many owners each has, and the schema.
+struct Snapshot {
+  std::vector<Object const*> elements;
+  std::vector<long> useCounts;
+  Required required;
+
+  template <class Container>
+  static Snapshot Of(Container const& container) {
+    Snapshot snapshot;
+    for (auto it = container.Begin(); it != container.End(); ++it) {
+      snapshot.elements.push_back(it.operator->().get());
+      // The iterator holds one more reference while it stands on the element.
+      snapshot.useCounts.push_back(it.operator->().use_count() - 2);
+    }
+    snapshot.required = container.GetRequired();
+    return snapshot;
+  }
+
+  friend bool operator==(Snapshot const& a, Snapshot const& b) {
+    return a.elements == b.elements && a.useCounts == b.useCounts && a.required == b.required;
+  }
+};
+
+}  // namespace ryx::object::testing
