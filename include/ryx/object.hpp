@@ -18,7 +18,6 @@
 #include <ryx/object/bool.hpp>
 #include <ryx/object/container/const_iterator.hpp>
 #include <ryx/object/container/iterator.hpp>
-#include <ryx/object/container/nesting.hpp>
 #include <ryx/object/dictionary.hpp>
 #include <ryx/object/dictionary/property.hpp>
 #include <ryx/object/double.hpp>
@@ -42,7 +41,7 @@
 #include <ryx/object/serialize/json.hpp>
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/load_functions.hpp>
-#include <ryx/object/serialize/nesting_limit.hpp>
+#include <ryx/object/nesting_limit.hpp>
 #include <ryx/object/serialize/required.hpp>
 #include <ryx/object/serialize/save.hpp>
 #include <ryx/object/serialize/save_functions.hpp>

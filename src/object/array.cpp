@@ -57,7 +57,7 @@ Array<Base>& Array<Base>::operator=(Array const& other) {
   if (this == &other) {
     return *this;
   }
-  detail::NestingGuard const guard("copy");
+  detail::NestingGuard const guard(detail::Nesting::copy);
   detail::Copier copier;
   Objects copies;
   copies.reserve(other.objects.size());
@@ -253,7 +253,7 @@ bool Array<Base>::EqualTo(Object const& other) const {
   if (objects.size() != that.objects.size() || required != that.required) {
     return false;
   }
-  detail::NestingGuard const guard("compare");
+  detail::NestingGuard const guard(detail::Nesting::comparison);
   for (std::size_t i = 0; i < objects.size(); ++i) {
     Object const* const a = objects[i].get();
     Object const* const b = that.objects[i].get();

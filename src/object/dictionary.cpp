@@ -42,7 +42,7 @@ Dictionary<Base>& Dictionary<Base>::operator=(Dictionary const& other) {
   if (this == &other) {
     return *this;
   }
-  detail::NestingGuard const guard("copy");
+  detail::NestingGuard const guard(detail::Nesting::copy);
   detail::Copier copier;
   Properties copies;
   copies.reserve(other.properties.size());
@@ -183,7 +183,7 @@ bool Dictionary<Base>::EqualTo(Object const& other) const {
   if (properties.size() != that.properties.size() || required != that.required) {
     return false;
   }
-  detail::NestingGuard const guard("compare");
+  detail::NestingGuard const guard(detail::Nesting::comparison);
   for (auto const& [key, value] : properties) {
     auto const found = that.properties.find(key);
     if (found == that.properties.end()) {

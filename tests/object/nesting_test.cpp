@@ -52,7 +52,7 @@ TEST(Nesting, ASharedChildSurvivesTheReleaseOfItsParentIntact) {
 }
 
 TEST(Nesting, CopyAndCompareWorkUpToTheLimit) {
-  std::shared_ptr<Object> const deep = Nest(container::MaxNesting, Shape::Mixed);
+  std::shared_ptr<Object> const deep = Nest(GetNestingLimit(), Shape::Mixed);
   std::shared_ptr<Object> const copy = Object::Copy(*deep);
   ASSERT_TRUE(copy);
   EXPECT_NE(copy, deep);
@@ -61,19 +61,19 @@ TEST(Nesting, CopyAndCompareWorkUpToTheLimit) {
 
 TEST(Nesting, CopyAndCompareRefuseToGoDeeperThanTheLimit) {
   for (Shape shape : {Shape::Arrays, Shape::Dictionaries}) {
-    std::shared_ptr<Object> const deep = Nest(container::MaxNesting + 1, shape);
-    std::string const limit = std::to_string(container::MaxNesting);
+    std::shared_ptr<Object> const deep = Nest(GetNestingLimit() + 1, shape);
+    std::string const limit = std::to_string(GetNestingLimit());
     try {
       Object::Copy(*deep);
       FAIL() << "no exception";
-    } catch (std::runtime_error const& e) {
-      EXPECT_EQ(e.what(), "Cannot copy values nested deeper than " + limit + " levels");
+    } catch (NestingLimitError const& e) {
+      EXPECT_EQ(e.what(), "Values to copy are nested deeper than the nesting limit of " + limit + " levels");
     }
     try {
       static_cast<void>(deep->EqualTo(*deep));
       FAIL() << "no exception";
-    } catch (std::runtime_error const& e) {
-      EXPECT_EQ(e.what(), "Cannot compare values nested deeper than " + limit + " levels");
+    } catch (NestingLimitError const& e) {
+      EXPECT_EQ(e.what(), "Values to compare are nested deeper than the nesting limit of " + limit + " levels");
     }
     // The failures unwound their counters: a shallow copy still works.
     EXPECT_TRUE(Object::Copy(*Nest(2, shape)));

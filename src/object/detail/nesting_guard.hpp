@@ -1,30 +1,25 @@
-// Counts the nesting of recursive container operations on this thread and
-// refuses to go deeper than container::MaxNesting.
+// detail::NestingGuard: one level of nesting of a recursive operation (save
+// and load of values, of schemas, deep copies, comparisons), counted per
+// operation and thread for as long as the guard lives.
 #pragma once
 
-#include <ryx/object/container/nesting.hpp>
-
 #include <cstddef>
-#include <stdexcept>
-#include <string>
 
 namespace ryx::object::detail {
 
+enum class Nesting { value, schema, copy, comparison };
+
 class NestingGuard {
-public:
-  explicit NestingGuard(char const* operation) {
-    if (depth >= container::MaxNesting) {
-      throw std::runtime_error(std::string("Cannot ") + operation + " values nested deeper than " +
-                               std::to_string(container::MaxNesting) + " levels");
-    }
-    ++depth;
-  }
+ public:
+  // Throws NestingLimitError, counting nothing, when the new level would be
+  // deeper than GetNestingLimit().
+  explicit NestingGuard(Nesting nesting);
   NestingGuard(NestingGuard const&) = delete;
   NestingGuard& operator=(NestingGuard const&) = delete;
   ~NestingGuard() { --depth; }
 
-private:
-  static inline thread_local std::size_t depth = 0;
+ private:
+  std::size_t& depth;
 };
 
 }  // namespace ryx::object::detail

@@ -13,7 +13,7 @@
 
 #include "object/detail/type_name.hpp"
 #include "object/serialize/detail/archives.hpp"
-#include "object/serialize/detail/nesting.hpp"
+#include "object/detail/nesting_guard.hpp"
 
 namespace ryx::object {
 

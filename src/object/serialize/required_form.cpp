@@ -9,7 +9,7 @@
 
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
-#include "object/serialize/detail/nesting.hpp"
+#include "object/detail/nesting_guard.hpp"
 
 namespace ryx::object {
 

@@ -8,7 +8,7 @@
 #include <tuple>
 
 #include "object/serialize/detail/archives.hpp"
-#include "object/serialize/detail/nesting.hpp"
+#include "object/detail/nesting_guard.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
 namespace ryx::object {

@@ -1,7 +1,7 @@
 #include <ryx/object/serialize/xml.hpp>
 
 #include <ryx/object/serialize/load.hpp>
-#include <ryx/object/serialize/nesting_limit.hpp>
+#include <ryx/object/nesting_limit.hpp>
 #include <ryx/object/serialize/save.hpp>
 
 #include <sstream>

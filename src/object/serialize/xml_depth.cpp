@@ -1,6 +1,6 @@
 #include "object/serialize/detail/xml_depth.hpp"
 
-#include <ryx/object/serialize/nesting_limit.hpp>
+#include <ryx/object/nesting_limit.hpp>
 
 #include <string>
 

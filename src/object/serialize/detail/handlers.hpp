@@ -19,6 +19,7 @@
 
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
+#include "object/serialize/detail/kind_forms.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/type_record.hpp"
 

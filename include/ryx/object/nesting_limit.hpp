@@ -1,12 +1,15 @@
-// The nesting limit of Save and Load.
+// The nesting limit of the recursive operations: Save and Load, deep copies
+// (Set(Object const&) of containers, Object::Copy) and comparisons (EqualTo).
 //
-// Every value that Save or Load enters is one level below the value holding
+// Every value such an operation enters is one level below the value holding
 // it (the value passed in is level 1), and every schema one level below the
 // schema holding it (a container's own schema is level 1). A value or schema
-// deeper than the limit makes Save and Load throw NestingLimitError, which
-// keeps hostile documents from exhausting the stack. The limit is process-wide;
-// each thread counts its own depth. Raising it lets deeper values through at
-// the cost of proportionally more stack per Save or Load.
+// deeper than the limit makes the operation throw NestingLimitError, which
+// keeps hostile documents and deep values from exhausting the stack; the value
+// operated on is left as it was. The limit is process-wide; each thread counts
+// its own depth. Raising it lets deeper values through at the cost of
+// proportionally more stack. Destruction is never limited: containers release
+// their children iteratively.
 #pragma once
 
 #include <ryx/object/export.hpp>
