@@ -1,0 +1,222 @@
+// The forms of arrays, dictionaries, enumerators and pointers, against
+// hand-written documents and through round trips.
+#include <ryx/object.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <sstream>
+#include <string>
+
+namespace {
+
+using namespace ryx::object;
+using ryx::hash::MurmurThree32;
+using Objects = Array<Object>::Objects;
+using Properties = Dictionary<Object>::Properties;
+
+// [Int32 7, {"name": String "abc"}], both containers under the default schema.
+std::shared_ptr<Object> Example() {
+  auto const record = std::make_shared<Dictionary<Object>>(
+      Properties{{"name", std::make_shared<String>("abc")}});
+  return std::make_shared<Array<Object>>(Objects{std::make_shared<Int32>(7), record});
+}
+
+template <class T>
+std::string Bytes(T value) {
+  std::string bytes;
+  for (std::size_t i = 0; i != sizeof(T); ++i) {
+    bytes += static_cast<char>((static_cast<std::uint64_t>(value) >> (8 * i)) & 0xFF);
+  }
+  return bytes;
+}
+
+std::string Id(char const* name) { return Bytes(MurmurThree32::MakeData(name).GetValue()); }
+
+TEST(ContainerForms, WriteTheExampleAsJson) {
+  EXPECT_EQ(ToJson(Example()), R"({
+    "typename": "ryx.object.Array",
+    "required": {
+        "type": 0,
+        "child_types": []
+    },
+    "objects": [
+        {
+            "typename": "ryx.object.Int32",
+            "value": 7
+        },
+        {
+            "typename": "ryx.object.Dictionary",
+            "properties": [
+                {
+                    "key": "name",
+                    "value": {
+                        "typename": "ryx.object.String",
+                        "value": "abc"
+                    }
+                }
+            ],
+            "required": {
+                "type": 0,
+                "child_types": []
+            }
+        }
+    ]
+})");
+}
+
+TEST(ContainerForms, WriteTheExampleAsXml) {
+  EXPECT_EQ(ToXml(Example()), R"(<?xml version="1.0" encoding="utf-8"?>
+<cereal>
+	<typename>ryx.object.Array</typename>
+	<required>
+		<type>0</type>
+		<child_types size="dynamic"/>
+	</required>
+	<objects size="dynamic">
+		<value0>
+			<typename>ryx.object.Int32</typename>
+			<value>7</value>
+		</value0>
+		<value1>
+			<typename>ryx.object.Dictionary</typename>
+			<properties size="dynamic">
+				<value0>
+					<key>name</key>
+					<value>
+						<typename>ryx.object.String</typename>
+						<value>abc</value>
+					</value>
+				</value0>
+			</properties>
+			<required>
+				<type>0</type>
+				<child_types size="dynamic"/>
+			</required>
+		</value1>
+	</objects>
+</cereal>
+
+)");
+}
+
+TEST(ContainerForms, WriteTheExampleAsEightyFourBinaryBytes) {
+  std::string const expected = "\x01" + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
+                               Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{2}) +
+                               Id("ryx.object.Int32") + Bytes(std::int32_t{7}) +
+                               Id("ryx.object.Dictionary") + Bytes(std::uint64_t{1}) +
+                               Bytes(std::uint64_t{4}) + "name" + Id("ryx.object.String") +
+                               Bytes(std::uint64_t{3}) + "abc" + Bytes(std::uint32_t{0}) +
+                               Bytes(std::uint64_t{0});
+  ASSERT_EQ(expected.size(), 84u);
+  EXPECT_EQ(ToBinary(Example()), expected);
+}
+
+TEST(ContainerForms, WriteTheExampleAsTemplateData) {
+  EXPECT_EQ(Render("{{typename}}:{{#objects}} [{{typename}}{{#is.typename.ryx.object.Int32}}="
+                   "{{value}}{{/is.typename.ryx.object.Int32}}{{#properties}} {{key}}={{value.value}}"
+                   "{{/properties}}]{{/objects}} schema {{required.type}}",
+                   Example()),
+            "ryx.object.Array: [ryx.object.Int32=7] [ryx.object.Dictionary name=abc] schema 0");
+}
+
+TEST(ContainerForms, RoundTripEveryKindInEveryForm) {
+  auto const pointer = std::make_shared<Pointer<Object, void>>();
+  pointer->Set(std::make_shared<int>(1), MurmurThree32::MakeData("test.Pointee"));
+  Required const schema(Object::TypeIdOf<Array<Object>>(), {Required(Object::TypeIdOf<Int32>())});
+  auto const typed = std::make_shared<Array<Object>>(Required(Object::TypeIdOf<Int32>()),
+                                                     Objects{std::make_shared<Int32>(1)});
+  auto const value = std::make_shared<Dictionary<Object>>(
+      Object::TypeIdOf<Dictionary<Object>>(), schema,
+      Properties{{"typed", typed}, {"nested", Example()}});
+  auto const all = std::make_shared<Array<Object>>(Objects{
+      value, std::make_shared<Enum<Object>>(enumeration::Dummy{65535}), pointer,
+      std::make_shared<Pointer<Object, void const>>()});
+  for (auto const& loaded : {FromJson(ToJson(all)), FromXml(ToXml(all)), FromBinary(ToBinary(all))}) {
+    ASSERT_TRUE(loaded);
+    auto const& array = loaded->As<Array<Object>>();
+    EXPECT_TRUE(array.Get(0)->EqualTo(*value));
+    EXPECT_TRUE(array.Get(1)->EqualTo(*all->Get(1)));
+    // The pointee is not part of any form: only its type comes back.
+    auto const& loadedPointer = array.Get(2)->As<Pointer<Object, void>>();
+    EXPECT_EQ(loadedPointer.GetPointer(), nullptr);
+    EXPECT_EQ(loadedPointer.GetPointeeType(), pointer->GetPointeeType());
+    EXPECT_TRUE((array.Get(3)->Is<Pointer<Object, void const>>()));
+  }
+}
+
+TEST(ContainerForms, KeepNullChildrenAsNull) {
+  auto const array = std::make_shared<Array<Object>>(Objects{std::make_shared<Int32>(1), std::make_shared<Int32>(2)});
+  *array->GetSlot(0) = nullptr;
+  EXPECT_NE(ToJson(array).find("{\n            \"typename\": \"\"\n        }"), std::string::npos);
+  for (auto const& loaded : {FromJson(ToJson(array)), FromXml(ToXml(array)), FromBinary(ToBinary(array))}) {
+    ASSERT_TRUE(loaded);
+    EXPECT_EQ(loaded->As<Array<Object>>().Get(0), nullptr);
+    EXPECT_TRUE(loaded->EqualTo(*array));
+  }
+}
+
+TEST(ContainerForms, LoadTheFirstOfRepeatedKeysAndMembersInAnyOrder) {
+  std::string const json = R"({"typename": "ryx.object.Dictionary",
+    "required": {"child_types": [], "type": 0},
+    "properties": [
+      {"value": {"typename": "ryx.object.Int32", "value": 1}, "key": "k"},
+      {"key": "k", "value": {"typename": "ryx.object.Int32", "value": 2}}]})";
+  auto const loaded = FromJson(json);
+  ASSERT_TRUE(loaded);
+  EXPECT_EQ(loaded->As<Dictionary<Object>>().Size(), 1u);
+  EXPECT_EQ(loaded->As<Dictionary<Object>>().Get("k")->As<Int32>().Get(), 1);
+
+  std::string const binary = "\x01" + Id("ryx.object.Dictionary") + Bytes(std::uint64_t{2}) +
+                             Bytes(std::uint64_t{1}) + "k" + Id("ryx.object.Int32") +
+                             Bytes(std::int32_t{1}) + Bytes(std::uint64_t{1}) + "k" +
+                             Id("ryx.object.Int32") + Bytes(std::int32_t{2}) +
+                             Bytes(std::uint32_t{0}) + Bytes(std::uint64_t{0});
+  EXPECT_EQ(FromBinary(binary)->As<Dictionary<Object>>().Get("k")->As<Int32>().Get(), 1);
+}
+
+TEST(ContainerForms, LoadWhatTheDocumentHoldsWithoutElementChecks) {
+  std::string const json = R"({"typename": "ryx.object.Array",
+    "required": {"type": )" + std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
+                           R"(, "child_types": []},
+    "objects": [{"typename": "ryx.object.Bool", "value": true}, {"typename": "no.such.Type"}]})";
+  auto const loaded = FromJson(json);
+  ASSERT_TRUE(loaded);
+  auto const& array = loaded->As<Array<Object>>();
+  EXPECT_EQ(array.GetRequired(), Required(Object::TypeIdOf<Int32>()));
+  EXPECT_TRUE(array.Get(0)->Is<Bool>());
+  EXPECT_EQ(array.Get(1), nullptr);
+}
+
+TEST(ContainerForms, ReportTheFailedCheckOfAMemberOfTheWrongKind) {
+  auto const checkOf = [](std::string const& document) {
+    try {
+      FromJson(document);
+    } catch (cereal::archive::JsonParseError const& error) {
+      return std::string(error.GetCheck());
+    }
+    return std::string("no error");
+  };
+  EXPECT_EQ(checkOf(R"({"typename": "ryx.object.Array", "required": {"type": 0, "child_types": []},
+                        "objects": 5})"),
+            "IsObject()");  // cereal enters every node as an object first
+  EXPECT_EQ(checkOf(R"({"typename": "ryx.object.Array", "required": {"type": 0, "child_types": []},
+                        "objects": [5]})"),
+            "IsObject()");
+  EXPECT_EQ(checkOf(R"({"typename": "ryx.object.Enum", "type": -1, "value": 0})"),
+            "data_.f.flags & kUintFlag");
+}
+
+TEST(ContainerForms, ADirectLoadChangesNothingWhenItFails) {
+  Required const int32Schema(Object::TypeIdOf<Int32>());
+  Array<Object> target(int32Schema, {std::make_shared<Int32>(9)});
+  std::istringstream in(R"({"typename": "ryx.object.Array",
+    "required": {"type": 0, "child_types": []}, "objects": 5})");
+  cereal::JSONInputArchive archive(in);
+  EXPECT_THROW(target.Serialize(archive), cereal::archive::JsonParseError);
+  EXPECT_EQ(target.Size(), 1u);
+  EXPECT_EQ(target.GetRequired(), int32Schema);
+}
+
+}  // namespace
