@@ -3,9 +3,9 @@
 // nlohmann::json and rapidjson. Each reports MB/s of its own text.
 #include "serialize_records.hpp"
 
-// cereal's JSON archive configures rapidjson (its assertion and flags); it
+// The library's JSON header configures rapidjson (its failed checks throw); it
 // comes first so that every user of rapidjson in this program sees the same.
-#include <cereal/archives/json.hpp>
+#include <ryx/serialize/archive/json.hpp>
 #include <cereal/archives/portable_binary.hpp>
 
 #include <benchmark/benchmark.h>
