@@ -98,7 +98,8 @@ TEST(XmlForm, CountsElementsHiddenBehindMarkupTheParserReadsAsElements) {
 }
 
 TEST(XmlForm, RefusesDocumentsCutInsideMarkup) {
-  for (char const* cut : {"<?xml versio", "<cereal a", "<cereal a=", "<cereal a='x", "<!DOCTYPE x [", "<a"}) {
+  for (char const* cut :
+       {"<?xml versio", "<cereal a", "<cereal a=", "<cereal a='x", "<!DOCTYPE x [", "<a"}) {
     EXPECT_THROW(FromXml(cut), cereal::Exception) << cut;
     EXPECT_THROW(FromXml(std::string(cut) + '\0' + "<cereal/>"), cereal::Exception) << cut;
   }

@@ -15,7 +15,7 @@
 #include <ryx/object/uint64.hpp>
 #include <ryx/object/uint8.hpp>
 
-#define RYX_OBJECT_SERIALIZED_KINDS(X)                                                         \
-  X(Bool)                                                                                      \
-  X(Int8) X(Int16) X(Int32) X(Int64) X(UInt8) X(UInt16) X(UInt32) X(UInt64) X(Float) X(Double) \
-      X(String)
+#define RYX_OBJECT_SERIALIZED_KINDS(X) \
+  X(Bool)                              \
+  X(Int8)                              \
+  X(Int16) X(Int32) X(Int64) X(UInt8) X(UInt16) X(UInt32) X(UInt64) X(Float) X(Double) X(String)
