@@ -19,8 +19,8 @@ void Section(char const* title) { std::cout << "\n== " << title << '\n'; }
 int main() {
   Section("values and their types");
   std::vector<std::shared_ptr<Object>> values{
-      std::make_shared<Int32>(42), std::make_shared<Double>(2.5),
-      std::make_shared<String>("hello"), std::make_shared<Bool>(true)};
+      std::make_shared<Int32>(42), std::make_shared<Double>(2.5), std::make_shared<String>("hello"),
+      std::make_shared<Bool>(true)};
   for (auto const& value : values) {
     std::cout << *value << "  is Int32: " << std::boolalpha << value->Is<Int32>() << '\n';
   }
@@ -47,8 +47,8 @@ int main() {
   auto const copy = Object::Copy(*values[2]);
   copy->As<String>().Set("changed");
   std::cout << "original: " << values[2]->As<String>().Get()
-            << ", copy: " << copy->As<String>().Get()
-            << ", equal: " << values[2]->EqualTo(*copy) << '\n';
+            << ", copy: " << copy->As<String>().Get() << ", equal: " << values[2]->EqualTo(*copy)
+            << '\n';
 
   Section("walking and checking against a schema");
   Required const int32Elements(Object::TypeIdOf<Int32>());
@@ -111,6 +111,22 @@ int main() {
             << madeArray->GetRequired() << '\n';
   auto const made = Required(Object::TypeIdOf<Double>()).Make();
   std::cout << "Required(Double).Make(): " << *made << " holding " << made->As<Double>().Get()
+            << '\n';
+
+  Section("saving and loading in every form");
+  std::shared_ptr<Object const> const saved = std::make_shared<String>("hello, forms");
+  std::string const json = ToJson(saved);
+  std::string const xml = ToXml(saved);
+  std::string const binary = ToBinary(saved);
+  std::cout << "JSON:\n" << json << "\nXML:\n" << xml << "binary: " << binary.size() << " bytes\n";
+  for (auto const& loaded : {FromJson(json), FromXml(xml), FromBinary(binary)}) {
+    std::cout << "  loaded back equal: " << loaded->EqualTo(*saved) << '\n';
+  }
+  std::cout << "rendered: "
+            << Render(
+                   "{{#is.typename.ryx.object.String}}a string: {{value}}"
+                   "{{/is.typename.ryx.object.String}}",
+                   saved)
             << '\n';
   return 0;
 }

@@ -108,19 +108,33 @@ TEST(JsonForm, RefusesMissingMembersAndEmptyNodes) {
   EXPECT_THROW(FromJson(""), cereal::Exception);
 }
 
-TEST(JsonForm, RefusesZerosThatTheNumberParserWouldMisread) {
-  std::string const misread[] = {"0e-300", "-0e30", "0.00000000000000000000000", "0.0e-23"};
+TEST(JsonForm, RefusesNumbersThatTheNumberParserWouldMisread) {
+  std::string const misread[] = {"0e-300",
+                                 "-0e30",
+                                 "0.00000000000000000000000",
+                                 "0.0e-23",
+                                 "0." + std::string(400, '0') + "1",
+                                 "1e-331",
+                                 "-0.01e-330"};
   for (std::string const& zero : misread) {
     EXPECT_THROW(FromJson(R"({"typename":"ryx.object.Double","value":)" + zero + "}"),
                  cereal::archive::JsonParseError)
         << zero;
   }
-  std::string const read[] = {"0.0", "-0.0", "0e22", "0.0000000000000000000000", "1e-300"};
+  std::string const read[] = {"0.0",
+                              "-0.0",
+                              "0e22",
+                              "0.0000000000000000000000",
+                              "1e-300",
+                              "4.9406564584124654e-324",
+                              "1.7976931348623157e308"};
   for (std::string const& number : read) {
-    EXPECT_NO_THROW(FromJson(R"({"typename":"ryx.object.Double","value":)" + number + "}")) << number;
+    EXPECT_NO_THROW(FromJson(R"({"typename":"ryx.object.Double","value":)" + number + "}"))
+        << number;
   }
   // Inside strings digits are text.
-  EXPECT_EQ(FromJson(R"({"typename":"ryx.object.String","value":"0e-300"})")->As<String>().Get(), "0e-300");
+  EXPECT_EQ(FromJson(R"({"typename":"ryx.object.String","value":"0e-300"})")->As<String>().Get(),
+            "0e-300");
 }
 
 TEST(JsonForm, FailsCleanlyOnAMillionNestedArrays) {

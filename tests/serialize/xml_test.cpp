@@ -97,6 +97,14 @@ TEST(XmlForm, CountsElementsHiddenBehindMarkupTheParserReadsAsElements) {
   EXPECT_THROW(FromXml("<cereal><!--" + deep + "--></cereal>"), cereal::Exception);
 }
 
+TEST(XmlForm, RefusesDocumentsCutInsideMarkup) {
+  for (char const* cut :
+       {"<?xml versio", "<cereal a", "<cereal a=", "<cereal a='x", "<!DOCTYPE x [", "<a"}) {
+    EXPECT_THROW(FromXml(cut), cereal::Exception) << cut;
+    EXPECT_THROW(FromXml(std::string(cut) + '\0' + "<cereal/>"), cereal::Exception) << cut;
+  }
+}
+
 TEST(XmlForm, ParsesTheDeepestDocumentTheDepthCheckLetsThrough) {
   std::string document = "<cereal>";
   for (int i = 0; i != 5000; ++i) {

@@ -30,7 +30,7 @@ std::string ToJson(std::shared_ptr<Object const> const& value) {
 // of nesting only costs memory in proportion to the document; Load refuses
 // values nested deeper than the limit.
 std::shared_ptr<Object> FromJson(std::string_view document) {
-  detail::CheckJsonZeros(document);
+  detail::CheckJsonNumbers(document);
   detail::ViewStream in(document);
   cereal::JSONInputArchive archive(in);
   std::shared_ptr<Object> value;

@@ -13,28 +13,40 @@ bool IsNumberChar(char c) {
   return IsDigit(c) || c == '-' || c == '+' || c == '.' || c == 'e' || c == 'E';
 }
 
-// Exponents beyond this are as bad as any other out of range.
-constexpr long ExponentCap = 1000000;
+// Counts and exponents beyond this are as bad as any other out of range.
+constexpr long Cap = 1000000;
+// The parser's fast path takes a zero with a decimal exponent in this range.
 constexpr long FastRange = 22;
+// Below 1e-330 the parser indexes its table of powers out of bounds; every
+// double is above it (the least is about 4.9e-324) and above 1e330 nothing
+// parses anyway.
+constexpr long MagnitudeRange = 330;
 
-// Whether `number` (a run of number characters) is a zero the parser misreads.
-bool IsMisreadZero(std::string_view number) {
+long Capped(long value) { return value < Cap ? value : Cap; }
+
+// Whether `number` (a run of number characters) is one the parser misreads.
+bool IsMisread(std::string_view number) {
   std::size_t at = number.empty() || number[0] != '-' ? 0 : 1;
+  long integerDigits = 0;
+  long fractionDigits = 0;
+  long leadingZeros = 0;
   bool nonzero = false;
-  bool digits = false;
-  long fraction = 0;
+  auto const digit = [&](char c) {
+    nonzero |= c != '0';
+    leadingZeros += nonzero ? 0 : 1;
+    leadingZeros = Capped(leadingZeros);
+  };
   for (; at < number.size() && IsDigit(number[at]); ++at) {
-    nonzero |= number[at] != '0';
-    digits = true;
+    digit(number[at]);
+    integerDigits = Capped(integerDigits + 1);
   }
   if (at < number.size() && number[at] == '.') {
     for (++at; at < number.size() && IsDigit(number[at]); ++at) {
-      nonzero |= number[at] != '0';
-      digits = true;
-      fraction += fraction < ExponentCap ? 1 : 0;
+      digit(number[at]);
+      fractionDigits = Capped(fractionDigits + 1);
     }
   }
-  if (nonzero || !digits) {
+  if (integerDigits + fractionDigits == 0) {
     return false;
   }
   long exponent = 0;
@@ -43,17 +55,22 @@ bool IsMisreadZero(std::string_view number) {
     bool const negative = at < number.size() && number[at] == '-';
     at += at < number.size() && (number[at] == '-' || number[at] == '+') ? 1 : 0;
     for (; at < number.size() && IsDigit(number[at]); ++at) {
-      exponent = exponent < ExponentCap ? exponent * 10 + (number[at] - '0') : exponent;
+      exponent = Capped(exponent * 10 + (number[at] - '0'));
     }
     exponent = negative ? -exponent : exponent;
   }
-  long const decimalExponent = exponent - fraction;
-  return decimalExponent < -FastRange || decimalExponent > FastRange;
+  if (!nonzero) {
+    long const decimalExponent = exponent - fractionDigits;
+    return decimalExponent < -FastRange || decimalExponent > FastRange;
+  }
+  // The value is d.ddd times ten to this.
+  long const magnitude = integerDigits - leadingZeros - 1 + exponent;
+  return magnitude < -MagnitudeRange || magnitude > MagnitudeRange;
 }
 
 }  // namespace
 
-void CheckJsonZeros(std::string_view document) {
+void CheckJsonNumbers(std::string_view document) {
   bool inString = false;
   for (std::size_t at = 0; at < document.size(); ++at) {
     char const c = document[at];
@@ -70,8 +87,8 @@ void CheckJsonZeros(std::string_view document) {
       while (end < document.size() && IsNumberChar(document[end])) {
         ++end;
       }
-      if (IsMisreadZero(document.substr(at, end - at))) {
-        throw cereal::archive::JsonParseError("zero with a decimal exponent beyond 22");
+      if (IsMisread(document.substr(at, end - at))) {
+        throw cereal::archive::JsonParseError("number out of the parser's range");
       }
       at = end - 1;
     }

@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t End = std::string_view::npos;
 
 bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-bool IsNameChar(char c) { return !IsSpace(c) && c != '/' && c != '>' && c != '?'; }
+bool IsNameChar(char c) { return c != '\0' && !IsSpace(c) && c != '/' && c != '>' && c != '?'; }
 bool IsAttributeNameChar(char c) { return IsNameChar(c) && c != '<' && c != '=' && c != '!'; }
 bool IsLetter(char c, char lower) { return c == lower || c == lower - 'a' + 'A'; }
 
