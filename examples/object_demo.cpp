@@ -114,19 +114,25 @@ int main() {
             << '\n';
 
   Section("saving and loading in every form");
-  std::shared_ptr<Object const> const saved = std::make_shared<String>("hello, forms");
+  // The record built above: a name and an array of sizes under an Int32 schema.
+  std::shared_ptr<Object const> const saved = record;
   std::string const json = ToJson(saved);
   std::string const xml = ToXml(saved);
   std::string const binary = ToBinary(saved);
-  std::cout << "JSON:\n" << json << "\nXML:\n" << xml << "binary: " << binary.size() << " bytes\n";
+  std::cout << "JSON:\n" << json << "\nXML: " << xml.size() << " characters, binary: "
+            << binary.size() << " bytes\n";
+  char const* const forms[] = {"JSON", "XML", "binary"};
+  int form = 0;
   for (auto const& loaded : {FromJson(json), FromXml(xml), FromBinary(binary)}) {
-    std::cout << "  loaded back equal: " << loaded->EqualTo(*saved) << '\n';
+    std::cout << "  loaded back from " << forms[form++] << ", equal: " << loaded->EqualTo(*saved)
+              << '\n';
   }
   std::cout << "rendered: "
-            << Render(
-                   "{{#is.typename.ryx.object.String}}a string: {{value}}"
-                   "{{/is.typename.ryx.object.String}}",
-                   saved)
+            << Render("{{#properties}}{{key}}: "
+                      "{{#value.is.typename.ryx.object.String}}{{value.value}}"
+                      "{{/value.is.typename.ryx.object.String}}"
+                      "{{#value.objects}}{{value}} {{/value.objects}}; {{/properties}}",
+                      saved)
             << '\n';
   return 0;
 }
