@@ -2,6 +2,8 @@
 
 #include <ryx/object/serialize/save.hpp>
 
+#include <utility>
+
 #include "object/serialize/detail/handlers.hpp"
 
 namespace ryx::object {
@@ -12,7 +14,7 @@ RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
 mstch::node ToTemplateData(std::shared_ptr<Object const> const& value) {
   templating::serialize::archive::output::Data archive;
   Save(archive, value);
-  return archive.GetRoot();
+  return std::move(archive).TakeRoot();
 }
 
 }  // namespace ryx::object

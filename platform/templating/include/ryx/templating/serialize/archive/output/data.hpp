@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <type_traits>
 #include <vector>
 
@@ -30,6 +31,9 @@ class RYX_TEMPLATING_EXPORT Data : public cereal::OutputArchive<Data> {
 
   // The tree built so far.
   mstch::node const& GetRoot() const noexcept { return root; }
+  // Moves the finished tree out, sparing a copy of a large tree; the archive
+  // must not be used afterwards.
+  mstch::node TakeRoot() && noexcept { return std::move(root); }
 
   // The name under which the next value or node goes into the current map.
   // Not copied: it must stay valid until that value or node is placed.
