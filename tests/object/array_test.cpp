@@ -175,14 +175,6 @@ TEST(Array, RefusesToCopyFromAnotherKindAndStaysAsItWas) {
   EXPECT_EQ(Snapshot::Of(array), before);
 }
 
-// A value whose type is not registered cannot be copied.
-class Unregistered final : public Object {
-public:
-  Unregistered() : Object(ryx::hash::MurmurThree32::MakeData("test.Unregistered")) {}
-  void Set(Object const&) override {}
-  bool EqualTo(Object const& other) const override { return &other == this; }
-};
-
 TEST(Array, ReportsAnElementThatCannotBeCopied) {
   Array<Object> const source(Objects{MakeInt(1), std::make_shared<Unregistered>()});
   auto const kept = MakeInt(2);

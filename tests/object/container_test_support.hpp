@@ -38,6 +38,14 @@ std::string MessageOf(Call call) {
   return std::string();
 }
 
+// A value whose type is not registered, and so cannot be copied.
+class Unregistered final : public Object {
+public:
+  Unregistered() : Object(hash::MurmurThree32::MakeData("test.Unregistered")) {}
+  void Set(Object const&) override {}
+  bool EqualTo(Object const& other) const override { return &other == this; }
+};
+
 // Everything a failed operation must leave alone: the elements in their order,
 // how many owners each has, and the schema.
 struct Snapshot {

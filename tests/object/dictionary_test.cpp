@@ -137,13 +137,6 @@ TEST(Dictionary, CopyingFromAPerPositionSchemaFailsAndLeavesTheTargetEmpty) {
   EXPECT_EQ(target.GetRequired(), Required());
 }
 
-class Unregistered final : public Object {
-public:
-  Unregistered() : Object(ryx::hash::MurmurThree32::MakeData("test.Unregistered")) {}
-  void Set(Object const&) override {}
-  bool EqualTo(Object const& other) const override { return &other == this; }
-};
-
 TEST(Dictionary, ReportsAValueThatCannotBeCopiedAndStaysAsItWas) {
   Dictionary<Object> const source(Properties{{"odd", std::make_shared<Unregistered>()}});
   auto const kept = MakeInt(1);
