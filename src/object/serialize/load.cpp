@@ -11,6 +11,7 @@
 #include <tuple>
 #include <type_traits>
 
+#include "object/detail/registry_cache.hpp"
 #include "object/detail/type_name.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/detail/nesting_guard.hpp"
@@ -68,19 +69,22 @@ template <class Archive>
 void Load(Archive& archive, std::shared_ptr<Object>& object) {
   detail::NestingGuard const level(detail::Nesting::value);
   hash::MurmurThree32 const id = ReadTypeId(archive);
-  auto const construct = Object::GetConstructFunction(id);
-  std::shared_ptr<Object> made = construct ? construct() : nullptr;
-  LoadFunction<Archive> load;
-  if (made) {
-    load = std::get<LoadFunction<Archive>>(Object::GetLoadFunctions(id));
+  detail::CachedRecord const* const record = detail::FindCachedRecord(id);
+  // The record itself stays valid while a construct function uses the registry.
+  registry::Info const* const info = record != nullptr ? record->info : nullptr;
+  std::shared_ptr<Object> made;
+  if (info != nullptr && info->GetConstructFunction()) {
+    made = info->GetConstructFunction()();
   }
-  if (!load) {
+  LoadFunction<Archive> const* const load =
+      made ? &std::get<LoadFunction<Archive>>(info->GetLoadFunctions()) : nullptr;
+  if (load == nullptr || !*load) {
     CannotRead<Archive>(id);
     object = nullptr;
     return;
   }
   made->GetOptions().Set(Option::deserializing);
-  load(*made, archive);
+  (*load)(*made, archive);
   made->GetOptions().Clear(Option::deserializing);
   object = std::move(made);
 }

@@ -7,8 +7,10 @@
 #include <string>
 #include <tuple>
 
-#include "object/serialize/detail/archives.hpp"
 #include "object/detail/nesting_guard.hpp"
+#include "object/detail/registry_cache.hpp"
+#include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/save_value.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
 namespace ryx::object {
@@ -24,27 +26,41 @@ void WriteNullRecord(cereal::PortableBinaryOutputArchive& archive) { archive(std
 
 }  // namespace
 
+namespace detail {
+
 template <class Archive>
-void Save(Archive& archive, std::shared_ptr<Object const> const& object) {
-  detail::NestingGuard const level(detail::Nesting::value);
-  if (!object) {
+void SaveValue(Archive& archive, Object const* object) {
+  NestingGuard const level(Nesting::value);
+  if (object == nullptr) {
     WriteNullRecord(archive);
     return;
   }
-  SaveFunctions const functions = Object::GetSaveFunctions(object->GetType());
-  SaveFunction<Archive> const& save = std::get<SaveFunction<Archive>>(functions);
+  CachedRecord const* const record = FindCachedRecord(object->GetType());
+  if (record == nullptr) {
+    ThrowNotRegistered(*object);
+  }
+  SaveFunction<Archive> const& save =
+      std::get<SaveFunction<Archive>>(record->info->GetSaveFunctions());
   if (!save) {
-    // An unregistered type has neither functions nor a name for the message.
-    char const* const name = detail::RegisteredTypeName(*object);
-    throw std::runtime_error(std::string("No serialization function available: ") + name);
+    throw std::runtime_error("No serialization function available: " + record->name);
   }
   save(*object, archive);
 }
 
-template void Save(cereal::XMLOutputArchive&, std::shared_ptr<Object const> const&);
-template void Save(cereal::JSONOutputArchive&, std::shared_ptr<Object const> const&);
-template void Save(cereal::PortableBinaryOutputArchive&, std::shared_ptr<Object const> const&);
-template void Save(templating::serialize::archive::output::Data&,
-                   std::shared_ptr<Object const> const&);
+}  // namespace detail
+
+template <class Archive>
+void Save(Archive& archive, std::shared_ptr<Object const> const& object) {
+  detail::SaveValue(archive, object.get());
+}
+
+#define RYX_OBJECT_DETAIL_INSTANTIATE(Archive)                                   \
+  template void detail::SaveValue(Archive&, Object const*);                      \
+  template void Save(Archive&, std::shared_ptr<Object const> const&);
+RYX_OBJECT_DETAIL_INSTANTIATE(cereal::XMLOutputArchive)
+RYX_OBJECT_DETAIL_INSTANTIATE(cereal::JSONOutputArchive)
+RYX_OBJECT_DETAIL_INSTANTIATE(cereal::PortableBinaryOutputArchive)
+RYX_OBJECT_DETAIL_INSTANTIATE(templating::serialize::archive::output::Data)
+#undef RYX_OBJECT_DETAIL_INSTANTIATE
 
 }  // namespace ryx::object

@@ -11,22 +11,27 @@
 #include <type_traits>
 #include <typeinfo>
 
+#include "object/detail/registry_cache.hpp"
 #include "object/detail/type_name.hpp"
 
 namespace ryx::object {
 
 namespace detail {
 
-char const* RegisteredTypeName(Object const& object) {
-  char const* const name = Object::TypeName(object.GetType());
-  if (name == nullptr) {
-    char const* mangled = typeid(object).name();
-    if (*mangled == '*') {
-      ++mangled;
-    }
-    throw std::logic_error("The class has not been registered: " + type::Demangle(mangled));
+void ThrowNotRegistered(Object const& object) {
+  char const* mangled = typeid(object).name();
+  if (*mangled == '*') {
+    ++mangled;
   }
-  return name;
+  throw std::logic_error("The class has not been registered: " + type::Demangle(mangled));
+}
+
+std::string const& RegisteredTypeName(Object const& object) {
+  CachedRecord const* const record = FindCachedRecord(object.GetType());
+  if (record == nullptr) {
+    ThrowNotRegistered(object);
+  }
+  return record->name;
 }
 
 void ThrowTypeMismatch(std::string const& found, Object const& object) {
@@ -50,7 +55,7 @@ void ReadTypeRecord(cereal::PortableBinaryInputArchive& archive, Object& object)
 
 template <class Archive>
 void Object::Serialize(Archive& archive) const {
-  std::string const name = detail::RegisteredTypeName(*this);
+  std::string const& name = detail::RegisteredTypeName(*this);
   archive(cereal::make_nvp("typename", name));
   if constexpr (std::is_same_v<Archive, templating::serialize::archive::output::Data>) {
     // Beside "typename", the flags a template tests: is.typename.<dotted name>.

@@ -33,6 +33,7 @@
 
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
+#include "object/serialize/detail/save_value.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
 namespace ryx::object::detail {
@@ -46,7 +47,7 @@ struct SavedNode {
 
   template <class Archive>
   void save(Archive& archive) const {
-    Save(archive, std::shared_ptr<Object const>(object));
+    SaveValue(archive, object.get());
   }
 };
 

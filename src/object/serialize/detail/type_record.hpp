@@ -12,9 +12,13 @@
 
 namespace ryx::object::detail {
 
-// The registered name of the object's type; std::logic_error naming the C++
-// class when there is none.
-char const* RegisteredTypeName(Object const& object);
+// std::logic_error naming the C++ class of an unregistered object.
+[[noreturn]] void ThrowNotRegistered(Object const& object);
+
+// The registered name of the object's type, valid until the next registry
+// lookup on this thread; std::logic_error naming the C++ class when there is
+// none.
+std::string const& RegisteredTypeName(Object const& object);
 
 // std::runtime_error: the document holds a `found` where `object` was expected.
 [[noreturn]] void ThrowTypeMismatch(std::string const& found, Object const& object);

@@ -1,0 +1,29 @@
+// detail::RegistryCache: what saving and loading look up for every value (a
+// type's record and its name as a std::string), found without the registry's
+// lock and without copying the record's functions.
+//
+// Each thread keeps the addresses of the registry records it has looked up,
+// valid for as long as the registry's generation is the one read before the
+// lookups; any registration or removal drops them all at the next lookup. A
+// record found here must not be removed while it is in use: removing a type
+// while another thread saves or loads a value of it is the caller's race.
+#pragma once
+
+#include <ryx/hash/murmur_three32.hpp>
+#include <ryx/object/registry/info.hpp>
+
+#include <string>
+
+namespace ryx::object::detail {
+
+struct CachedRecord {
+  registry::Info const* info;  // in the registry
+  std::string name;            // the record's type name
+};
+
+// The entry of `id` on this thread, or null when the id is not registered. The
+// entry stays valid until the next lookup on this thread, the record it points
+// to (and its functions) until the type is removed.
+CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id);
+
+}  // namespace ryx::object::detail

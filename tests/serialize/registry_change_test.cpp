@@ -1,0 +1,48 @@
+#include <ryx/object.hpp>
+#include <ryx/object/registry/get.hpp>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using namespace ryx::object;
+
+// Saving and loading keep what they looked up in the registry between values;
+// a change of the registry must still be seen by the next value.
+TEST(RegistryChange, ARemovedTypeIsNeitherSavedNorLoadedUntilItIsRegisteredAgain) {
+  registry::Registry& types = registry::Get();
+  auto const id = Object::TypeIdOf<Int32>();
+  registry::Info const record = types.GetMap()->at(id);
+  std::shared_ptr<Object const> const value = std::make_shared<Int32>(7);
+  std::string const json = ToJson(value);
+  std::string const bytes = ToBinary(value);
+
+  types.Deregister(id);
+  EXPECT_THROW(ToJson(value), std::logic_error);
+  EXPECT_EQ(FromJson(json), nullptr);
+  EXPECT_THROW(FromBinary(bytes), std::runtime_error);
+
+  types.Register(record);
+  EXPECT_EQ(ToJson(value), json);
+  ASSERT_NE(FromBinary(bytes), nullptr);
+  EXPECT_TRUE(FromBinary(bytes)->EqualTo(*value));
+}
+
+TEST(RegistryChange, EveryRegistrationAndRemovalMovesTheGenerationOn) {
+  registry::Registry local;
+  auto const id = Object::TypeIdOf<Int32>();
+  registry::Info const record = registry::Get().GetMap()->at(id);
+  auto const start = local.GetGeneration();
+  local.Register(record);
+  local.Register(record);  // already there: nothing changes
+  EXPECT_EQ(local.GetGeneration(), start + 1);
+  local.Deregister(id);
+  local.Deregister(id);
+  EXPECT_EQ(local.GetGeneration(), start + 2);
+}
+
+}  // namespace
