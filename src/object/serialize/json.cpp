@@ -3,9 +3,8 @@
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/save.hpp>
 
-#include <sstream>
-
 #include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/json_numbers.hpp"
 #include "object/serialize/detail/view_stream.hpp"
 
@@ -17,13 +16,13 @@ RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
 RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_LOAD)
 
 std::string ToJson(std::shared_ptr<Object const> const& value) {
-  std::ostringstream text;
+  detail::StringStream text;
   {
     // The archive completes the document when it is destroyed.
     cereal::JSONOutputArchive archive(text);
     Save(archive, value);
   }
-  return text.str();
+  return text.Take();
 }
 
 // The parser is iterative (see <ryx/serialize/archive/json.hpp>), so any depth

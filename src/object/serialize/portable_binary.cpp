@@ -3,10 +3,11 @@
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/save.hpp>
 
-#include <sstream>
 #include <stdexcept>
+#include <string>
 
 #include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
 
 namespace ryx::object {
@@ -17,10 +18,10 @@ RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
 RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_LOAD)
 
 std::string ToBinary(std::shared_ptr<Object const> const& value) {
-  std::ostringstream bytes(std::ios::binary);
+  detail::StringStream bytes;
   cereal::PortableBinaryOutputArchive archive(bytes);
   Save(archive, value);
-  return bytes.str();
+  return bytes.Take();
 }
 
 std::shared_ptr<Object> FromBinary(std::string_view bytes) {

@@ -4,9 +4,8 @@
 #include <ryx/object/nesting_limit.hpp>
 #include <ryx/object/serialize/save.hpp>
 
-#include <sstream>
-
 #include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
 #include "object/serialize/detail/xml_depth.hpp"
 
@@ -31,13 +30,13 @@ std::size_t MaxXmlDepth() {
 }  // namespace
 
 std::string ToXml(std::shared_ptr<Object const> const& value) {
-  std::ostringstream text;
+  detail::StringStream text;
   {
     // The archive writes the document when it is destroyed.
     cereal::XMLOutputArchive archive(text);
     Save(archive, value);
   }
-  return text.str();
+  return text.Take();
 }
 
 // The XML parser recurses once per element level: the depth is checked first.
