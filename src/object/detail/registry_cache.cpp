@@ -2,6 +2,7 @@
 
 #include <ryx/object/registry/get.hpp>
 
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <unordered_map>
@@ -15,6 +16,18 @@ struct Cache {
   // is refreshed by its first lookup.
   std::uint64_t generation = std::numeric_limits<std::uint64_t>::max();
   std::unordered_map<std::uint32_t, CachedRecord> entries;
+  // In front of the map, the last entry found for each of a few id classes: a
+  // document uses a handful of types, and a hit here costs no division.
+  struct Recent {
+    std::uint32_t id = 0;
+    CachedRecord const* entry = nullptr;
+  };
+  std::array<Recent, 64> recent{};
+
+  void Clear() {
+    entries.clear();
+    recent.fill(Recent());
+  }
 };
 
 thread_local Cache cache;
@@ -27,23 +40,28 @@ CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id) {
   // generation, never older.
   std::uint64_t const generation = registry.GetGeneration();
   if (generation != cache.generation) {
-    cache.entries.clear();
+    cache.Clear();
     cache.generation = generation;
   }
-  auto const cached = cache.entries.find(id.GetValue());
-  if (cached != cache.entries.end()) {
-    return &cached->second;
+  Cache::Recent& recent = cache.recent[id.GetValue() % cache.recent.size()];
+  if (recent.entry != nullptr && recent.id == id.GetValue()) {
+    return recent.entry;
   }
-  auto const map = registry.GetMap();
-  auto const found = map->find(id);
-  if (found == map->end()) {
-    return nullptr;
+  auto cached = cache.entries.find(id.GetValue());
+  if (cached == cache.entries.end()) {
+    auto const map = registry.GetMap();
+    auto const found = map->find(id);
+    if (found == map->end()) {
+      return nullptr;
+    }
+    registry::Info const& info = found->second;
+    char const* const name = info.GetTypeName();
+    cached =
+        cache.entries.emplace(id.GetValue(), CachedRecord{&info, name != nullptr ? name : ""})
+            .first;
   }
-  registry::Info const& info = found->second;
-  char const* const name = info.GetTypeName();
-  return &cache.entries
-              .emplace(id.GetValue(), CachedRecord{&info, name != nullptr ? name : ""})
-              .first->second;
+  recent = Cache::Recent{id.GetValue(), &cached->second};
+  return recent.entry;
 }
 
 }  // namespace ryx::object::detail
