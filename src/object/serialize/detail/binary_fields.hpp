@@ -3,6 +3,7 @@
 // never used to allocate before the bytes it claims have been read.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -24,13 +25,16 @@ std::string ReadString(cereal::PortableBinaryInputArchive& archive);
 // A count or length, 8 bytes.
 std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive);
 
-// Reads a count and then that many items with readItem(archive, item). The
-// list grows item by item, so a count larger than the stream fails when the
-// stream ends, having held no more than was read.
+// Reads a count and then that many items with readItem(archive, item). Room
+// is made ahead for a few items only and then the list grows item by item, so
+// a count larger than the stream fails when the stream ends, having held
+// little more than was read.
 template <class Item, class ReadItem>
 std::vector<Item> ReadItems(cereal::PortableBinaryInputArchive& archive, ReadItem&& readItem) {
+  constexpr std::uint64_t ReservedAhead = 16;
   std::uint64_t const count = ReadCount(archive);
   std::vector<Item> items;
+  items.reserve(static_cast<std::size_t>(std::min(count, ReservedAhead)));
   for (std::uint64_t index = 0; index != count; ++index) {
     readItem(archive, items.emplace_back());
   }

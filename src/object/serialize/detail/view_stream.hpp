@@ -2,6 +2,8 @@
 // From... functions read their argument without copying it first.
 #pragma once
 
+#include <climits>
+#include <cstring>
 #include <istream>
 #include <streambuf>
 #include <string_view>
@@ -14,6 +16,24 @@ class ViewBuffer : public std::streambuf {
   explicit ViewBuffer(std::string_view bytes) {
     char* const begin = const_cast<char*>(bytes.data());
     setg(begin, begin, begin + bytes.size());
+  }
+
+ protected:
+  // One copy instead of the base class's character loop: the binary form
+  // reads every field through here.
+  std::streamsize xsgetn(char* bytes, std::streamsize count) override {
+    std::streamsize const available = egptr() - gptr();
+    std::streamsize const taken = count < available ? count : available;
+    if (taken > 0) {
+      std::memcpy(bytes, gptr(), static_cast<std::size_t>(taken));
+      // gbump takes an int; a read may be longer.
+      std::streamsize left = taken;
+      for (; left > INT_MAX; left -= INT_MAX) {
+        gbump(INT_MAX);
+      }
+      gbump(static_cast<int>(left));
+    }
+    return taken;
   }
 };
 
