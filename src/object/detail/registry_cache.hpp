@@ -1,6 +1,6 @@
-// detail::RegistryCache: what saving and loading look up for every value (a
-// type's record and its name as a std::string), found without the registry's
-// lock and without copying the record's functions.
+// detail::FindCachedRecord: what saving and loading look up for every value
+// (a type's record and its name as a std::string), found without the
+// registry's lock and without copying the record's functions.
 //
 // Each thread keeps the addresses of the registry records it has looked up,
 // valid for as long as the registry's generation is the one read before the

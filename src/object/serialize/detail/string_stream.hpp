@@ -37,6 +37,9 @@ class StringBuffer : public std::streambuf {
   }
 
   std::streamsize xsputn(char const* bytes, std::streamsize count) override {
+    if (count <= 0) {
+      return 0;
+    }
     std::size_t const size = static_cast<std::size_t>(count);
     if (static_cast<std::size_t>(epptr() - pptr()) < size) {
       Grow(size);
