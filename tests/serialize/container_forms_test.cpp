@@ -1,6 +1,6 @@
 // The forms of arrays, dictionaries, enumerators and pointers, against
 // hand-written documents and through round trips.
-#include <ryx/object.hpp>
+#include "serialize/box.hpp"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +15,8 @@ using namespace ryx::object;
 using ryx::hash::MurmurThree32;
 using Objects = Array<Object>::Objects;
 using Properties = Dictionary<Object>::Properties;
+using test::Bytes;
+using test::Id;
 
 // [Int32 7, {"name": String "abc"}], both containers under the default schema.
 std::shared_ptr<Object> Example() {
@@ -22,17 +24,6 @@ std::shared_ptr<Object> Example() {
       Properties{{"name", std::make_shared<String>("abc")}});
   return std::make_shared<Array<Object>>(Objects{std::make_shared<Int32>(7), record});
 }
-
-template <class T>
-std::string Bytes(T value) {
-  std::string bytes;
-  for (std::size_t i = 0; i != sizeof(T); ++i) {
-    bytes += static_cast<char>((static_cast<std::uint64_t>(value) >> (8 * i)) & 0xFF);
-  }
-  return bytes;
-}
-
-std::string Id(char const* name) { return Bytes(MurmurThree32::MakeData(name).GetValue()); }
 
 TEST(ContainerForms, WriteTheExampleAsJson) {
   EXPECT_EQ(ToJson(Example()), R"({
@@ -102,7 +93,7 @@ TEST(ContainerForms, WriteTheExampleAsXml) {
 }
 
 TEST(ContainerForms, WriteTheExampleAsEightyFourBinaryBytes) {
-  std::string const expected = "\x01" + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
+  std::string const expected = test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
                                Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{2}) +
                                Id("ryx.object.Int32") + Bytes(std::int32_t{7}) +
                                Id("ryx.object.Dictionary") + Bytes(std::uint64_t{1}) +
@@ -168,7 +159,7 @@ TEST(ContainerForms, LoadTheFirstOfRepeatedKeysAndMembersInAnyOrder) {
   EXPECT_EQ(loaded->As<Dictionary<Object>>().Size(), 1u);
   EXPECT_EQ(loaded->As<Dictionary<Object>>().Get("k")->As<Int32>().Get(), 1);
 
-  std::string const binary = "\x01" + Id("ryx.object.Dictionary") + Bytes(std::uint64_t{2}) +
+  std::string const binary = test::Little + Id("ryx.object.Dictionary") + Bytes(std::uint64_t{2}) +
                              Bytes(std::uint64_t{1}) + "k" + Id("ryx.object.Int32") +
                              Bytes(std::int32_t{1}) + Bytes(std::uint64_t{1}) + "k" +
                              Id("ryx.object.Int32") + Bytes(std::int32_t{2}) +
