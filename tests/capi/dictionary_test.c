@@ -56,15 +56,21 @@ static void HandleTestsNameTheDictionaryType(void) {
   RyxObjectRelease(array);
 }
 
+/* Set replaces a value in place, releasing the old one, without a schema
+ * check; Insert checks the schema and refuses an existing key. */
 static void SetReplacesWithoutASchemaCheckWhileInsertChecks(void) {
   RyxObject* const numbers = MakeDictionaryRequiring(RyxObjectInt32Type());
+  RyxObject* const one = RyxObjectInt32Create(1);
+  RyxObject* const replaced = RyxObjectReference(one);
   RyxObject* peeked;
   RyxObject* const flag = RyxObjectBoolCreate(true);
   RyxObject* const keep = RyxObjectReference(flag);
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictSetObject(numbers, "k", RyxObjectInt32Create(1)));
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictSetObject(numbers, "k", one));
   peeked = RyxObjectDictPeek(numbers, "k");
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictSetObject(numbers, "k", RyxObjectBoolCreate(false)));
   CHECK(RyxObjectBoolInstanceOf(peeked)); /* the borrowed slot shows the new value */
+  CHECK(RyxObjectReferenceCount(replaced) == 1);
+  RyxObjectRelease(replaced);
   CHECK_STATUS(RyxObjectStatusFailure, RyxObjectDictInsertObject(numbers, "new", flag));
   CHECK_LOGGED(
       "RyxObjectDictInsertObject: could not insert array object: The object 'ryx.object.Bool' did "

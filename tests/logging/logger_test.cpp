@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -15,31 +14,45 @@ using ryx::logging::Level;
 using ryx::logging::Logger;
 using ryx::logging::Name;
 
-std::string Format(char const* format, std::vector<std::string> const& arguments) {
-  std::vector<Logger::Argument> functions;
-  for (auto const& argument : arguments) {
-    functions.emplace_back([&argument](std::string* out) { out->append(argument); });
-  }
-  Logger const logger(Name("test"));
-  std::string out;
-  logger.Format(&out, logger.GetName(), Level::Error, format, functions.data(), functions.size());
-  return out;
-}
-
-TEST(LoggerFormat, ReplacesNumberedPlaceholdersInAnyOrderAndRepeatedly) {
-  EXPECT_EQ(Format("%1%-%0%-%1%", {"a", "b"}), "b-a-b");
-  EXPECT_EQ(Format("%0%: the %1% parameter was NULL", {"F", "value"}),
-            "F: the value parameter was NULL");
+TEST(LoggerFormat, ReplacesNumberedPlaceholdersAndCopiesEverythingElseAsItIs) {
+  struct Case {
+    char const* format;
+    std::vector<std::string> arguments;
+    char const* expected;
+  };
   std::vector<std::string> eleven(11, "x");
   eleven[10] = "ten";
-  EXPECT_EQ(Format("<%10%>", eleven), "<ten>");
+  Case const cases[] = {
+      {"%1%-%0%-%1%", {"a", "b"}, "b-a-b"},
+      {"<%10%>", eleven, "<ten>"},
+      // Placeholders without an argument and stray percent signs stay.
+      {"%2% %0", {"a"}, "%2% %0"},
+      {"100% %x%%0%", {"a"}, "100% %x%a"},
+      {"%99999999999999999999999%", {"a"}, "%99999999999999999999999%"},
+      {"", {}, ""},
+  };
+  Logger const logger(Name("test"));
+  for (Case const& c : cases) {
+    std::vector<Logger::Argument> functions;
+    for (auto const& argument : c.arguments) {
+      functions.emplace_back([&argument](std::string* out) { out->append(argument); });
+    }
+    std::string out;
+    logger.Format(&out, logger.GetName(), Level::Error, c.format, functions.data(),
+                  functions.size());
+    EXPECT_EQ(out, c.expected) << c.format;
+  }
 }
 
-TEST(LoggerFormat, CopiesPlaceholdersWithoutArgumentAndStrayPercentSignsAsTheyAre) {
-  EXPECT_EQ(Format("%2% %0", {"a"}), "%2% %0");
-  EXPECT_EQ(Format("100% %x%%0%", {"a"}), "100% %x%a");
-  EXPECT_EQ(Format("%99999999999999999999999%", {"a"}), "%99999999999999999999999%");
-  EXPECT_EQ(Format("", {}), "");
+TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbers) {
+  std::string out;
+  char const* const cString = "c\0ut";
+  std::string const text = "s";
+  Logger::Functor<char[4]>{"a\0b"}(&out);
+  Logger::Functor<char const*>{cString}(&out);
+  Logger::Functor<std::string>{text}(&out);
+  Logger::Functor<int>{-42}(&out);
+  EXPECT_EQ(out, std::string("a\0bcs-42", 8));
 }
 
 struct Captured {
@@ -57,40 +70,18 @@ void Capture(char const* logger, int level, char const* message, void* context) 
   captured->message = message;
 }
 
-class LoggerLog : public ::testing::Test {
- protected:
-  void SetUp() override { RyxLoggingSetSink(Capture, &captured); }
-  void TearDown() override { RyxLoggingSetSink(nullptr, nullptr); }
+TEST(LoggerLog, HandsInfoAndAboveToTheSinkOnceAndDropsTheRest) {
   Captured captured;
-};
-
-TEST_F(LoggerLog, HandsTheNameTheLevelAndTheFormattedMessageToTheSinkOnce) {
+  RyxLoggingSetSink(Capture, &captured);
   Logger const logger(Name("ryx.object"));
-  char const* const function = "RyxObjectInt32Get";
-  logger.Log(static_cast<Level>(16), "%0%: the %1% parameter was NULL", function, "value");
-  EXPECT_EQ(captured.calls, 1);
-  EXPECT_EQ(captured.logger, "ryx.object");
-  EXPECT_EQ(captured.level, 16);
-  EXPECT_EQ(captured.message, "RyxObjectInt32Get: the value parameter was NULL");
-}
-
-TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbers) {
-  std::string out;
-  char const* const cString = "c\0ut";
-  std::string const text = "s";
-  Logger::Functor<char[4]>{"a\0b"}(&out);
-  Logger::Functor<char const*>{cString}(&out);
-  Logger::Functor<std::string>{text}(&out);
-  Logger::Functor<int>{-42}(&out);
-  EXPECT_EQ(out, std::string("a\0bcs-42", 8));
-}
-
-TEST_F(LoggerLog, DropsLevelsBelowInfo) {
-  Logger const logger(Name("n"));
   logger.Log(Level::Debug, "quiet");
   EXPECT_EQ(captured.calls, 0);
-  logger.Log(Level::Info, "heard");
+  logger.Log(Level::Info, "%0%: the %1% parameter was NULL", "F", std::string("value"));
+  RyxLoggingSetSink(nullptr, nullptr);
   EXPECT_EQ(captured.calls, 1);
+  EXPECT_EQ(captured.logger, "ryx.object");
+  EXPECT_EQ(captured.level, 8);
+  EXPECT_EQ(captured.message, "F: the value parameter was NULL");
 }
 
 // A sink that counts its calls and notes any call after it was replaced.
