@@ -3,12 +3,6 @@
 
 #include <stdint.h>
 
-static int32_t Int32Of(RyxObject* handle) {
-  int32_t value = -1;
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
-  return value;
-}
-
 /* The array takes over every handle it is given, nested arrays included,
  * and releases them with itself. */
 static void CreateConsumesEveryHandleInOrder(void) {
@@ -150,11 +144,11 @@ static void PoppingHandsOverOwnership(void) {
 }
 
 TestCase const ArrayTests[] = {
-    {"CreateConsumesEveryHandleInOrder", CreateConsumesEveryHandleInOrder},
-    {"HandleTestsComeFirstAndLeaveTheObjectUntouched", HandleTestsComeFirstAndLeaveTheObjectUntouched},
-    {"AddingConsumesTheObjectWhateverTheOutcome", AddingConsumesTheObjectWhateverTheOutcome},
-    {"ASchemaMismatchFailsAndLeavesTheArrayAsItWas", ASchemaMismatchFailsAndLeavesTheArrayAsItWas},
-    {"StorageCanGrowShrinkAndEmpty", StorageCanGrowShrinkAndEmpty},
-    {"PoppingHandsOverOwnership", PoppingHandsOverOwnership},
+    TEST_CASE(CreateConsumesEveryHandleInOrder),
+    TEST_CASE(HandleTestsComeFirstAndLeaveTheObjectUntouched),
+    TEST_CASE(AddingConsumesTheObjectWhateverTheOutcome),
+    TEST_CASE(ASchemaMismatchFailsAndLeavesTheArrayAsItWas),
+    TEST_CASE(StorageCanGrowShrinkAndEmpty),
+    TEST_CASE(PoppingHandsOverOwnership),
 };
 size_t const ArrayTestCount = sizeof ArrayTests / sizeof ArrayTests[0];

@@ -4,12 +4,6 @@
 #include <stdint.h>
 #include <string.h>
 
-static int32_t Int32Of(RyxObject* handle) {
-  int32_t value = -1;
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
-  return value;
-}
-
 static void CreatePairsConsumesEveryValue(void) {
   RyxObject* const x = RyxObjectInt32Create(1);
   RyxObject* const keep = RyxObjectReference(x);
@@ -125,10 +119,10 @@ static void KeysAndObjectsCanBeFoundRemovedAndPopped(void) {
 }
 
 TestCase const DictionaryTests[] = {
-    {"CreatePairsConsumesEveryValue", CreatePairsConsumesEveryValue},
-    {"CreatePairsRefusesRepeatedKeysAndMissingValues", CreatePairsRefusesRepeatedKeysAndMissingValues},
-    {"HandleTestsNameTheDictionaryType", HandleTestsNameTheDictionaryType},
-    {"SetReplacesWithoutASchemaCheckWhileInsertChecks", SetReplacesWithoutASchemaCheckWhileInsertChecks},
-    {"KeysAndObjectsCanBeFoundRemovedAndPopped", KeysAndObjectsCanBeFoundRemovedAndPopped},
+    TEST_CASE(CreatePairsConsumesEveryValue),
+    TEST_CASE(CreatePairsRefusesRepeatedKeysAndMissingValues),
+    TEST_CASE(HandleTestsNameTheDictionaryType),
+    TEST_CASE(SetReplacesWithoutASchemaCheckWhileInsertChecks),
+    TEST_CASE(KeysAndObjectsCanBeFoundRemovedAndPopped),
 };
 size_t const DictionaryTestCount = sizeof DictionaryTests / sizeof DictionaryTests[0];

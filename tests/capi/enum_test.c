@@ -61,7 +61,7 @@ static void AnEnumeratorOfNoEnumerationFailsTypedAccess(void) {
       "ryx.object.enum.Dummy is not the same as the enum stored in this class");
 }
 
-static void ConvertConsumesTheHandleOnEveryPath(void) {
+static void ConvertValueConsumesTheHandleOnEveryPath(void) {
   RyxObject* const enumerator = RyxObjectEnumCreate(5);
   RyxObject* const keep = RyxObjectReference(enumerator);
   uint16_t value = 0;
@@ -74,9 +74,9 @@ static void ConvertConsumesTheHandleOnEveryPath(void) {
 }
 
 TestCase const EnumTests[] = {
-    {"CreatedEnumeratorsReadBackTheirValue", CreatedEnumeratorsReadBackTheirValue},
-    {"NullParametersAndOtherKindsAreRefusedInOrder", NullParametersAndOtherKindsAreRefusedInOrder},
-    {"AnEnumeratorOfNoEnumerationFailsTypedAccess", AnEnumeratorOfNoEnumerationFailsTypedAccess},
-    {"ConvertConsumesTheHandleOnEveryPath", ConvertConsumesTheHandleOnEveryPath},
+    TEST_CASE(CreatedEnumeratorsReadBackTheirValue),
+    TEST_CASE(NullParametersAndOtherKindsAreRefusedInOrder),
+    TEST_CASE(AnEnumeratorOfNoEnumerationFailsTypedAccess),
+    TEST_CASE(ConvertValueConsumesTheHandleOnEveryPath),
 };
 size_t const EnumTestCount = sizeof EnumTests / sizeof EnumTests[0];

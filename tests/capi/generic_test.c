@@ -16,13 +16,11 @@ static void EveryGenericFunctionAcceptsNullSilently(void) {
 static void ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails(void) {
   RyxObject* const first = RyxObjectInt32Create(11);
   RyxObject* const second = RyxObjectReference(first);
-  int32_t value = 0;
   CHECK(second != NULL && second != first);
   CHECK(RyxObjectReferenceCount(first) == 2 && RyxObjectReferenceCount(second) == 2);
   RyxObjectRelease(second);
   CHECK(RyxObjectReferenceCount(first) == 1);
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(first, &value));
-  CHECK(value == 11);
+  CHECK(Int32Of(first) == 11);
   FailNthAllocation(1);
   CHECK(RyxObjectReference(first) == NULL);
   FailNthAllocation(0);
@@ -75,13 +73,10 @@ static void StatusMessagesCoverEveryValue(void) {
 }
 
 TestCase const GenericTests[] = {
-    {"EveryGenericFunctionAcceptsNullSilently", EveryGenericFunctionAcceptsNullSilently},
-    {"ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails",
-     ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails},
-    {"AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered",
-     AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered},
-    {"AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased",
-     AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased},
-    {"StatusMessagesCoverEveryValue", StatusMessagesCoverEveryValue},
+    TEST_CASE(EveryGenericFunctionAcceptsNullSilently),
+    TEST_CASE(ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails),
+    TEST_CASE(AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered),
+    TEST_CASE(AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased),
+    TEST_CASE(StatusMessagesCoverEveryValue),
 };
 size_t const GenericTestCount = sizeof GenericTests / sizeof GenericTests[0];

@@ -221,13 +221,10 @@ static void CreateReportsAFailedAllocationOfTheValueOrOfTheHandle(void) {
 }
 
 TestCase const PrimitiveTests[] = {
-    {"EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle",
-     EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle},
-    {"NullParametersAreRefusedByNameTheObjectFirst", NullParametersAreRefusedByNameTheObjectFirst},
-    {"AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue",
-     AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue},
-    {"ConvertConsumesTheHandleOnEveryPath", ConvertConsumesTheHandleOnEveryPath},
-    {"CreateReportsAFailedAllocationOfTheValueOrOfTheHandle",
-     CreateReportsAFailedAllocationOfTheValueOrOfTheHandle},
+    TEST_CASE(EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle),
+    TEST_CASE(NullParametersAreRefusedByNameTheObjectFirst),
+    TEST_CASE(AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue),
+    TEST_CASE(ConvertConsumesTheHandleOnEveryPath),
+    TEST_CASE(CreateReportsAFailedAllocationOfTheValueOrOfTheHandle),
 };
 size_t const PrimitiveTestCount = sizeof PrimitiveTests / sizeof PrimitiveTests[0];

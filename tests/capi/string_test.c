@@ -56,7 +56,6 @@ static void NullParametersAreRefusedInOrderAndKeepTheText(void) {
 static void OtherKindsAreRefusedNamingBothTypes(void) {
   RyxObject* const number = RyxObjectInt32Create(3);
   char const* text = NULL;
-  int32_t value = 0;
   CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectStringGet(number, &text));
   CHECK_LOGGED(
       "RyxObjectStringGet: the object parameter was not a ryx.object.String: ryx.object.Int32");
@@ -64,8 +63,7 @@ static void OtherKindsAreRefusedNamingBothTypes(void) {
   CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectStringSet(number, "3"));
   CHECK_LOGGED(
       "RyxObjectStringSet: the object parameter was not a ryx.object.String: ryx.object.Int32");
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(number, &value));
-  CHECK(value == 3);
+  CHECK(Int32Of(number) == 3);
   RyxObjectRelease(number);
 }
 
@@ -169,16 +167,12 @@ static void AFailedAllocationIsReportedAndKeepsTheText(void) {
 }
 
 TestCase const StringTests[] = {
-    {"CreateAndSetCopyTheTextWhichGetLendsToEveryHandle",
-     CreateAndSetCopyTheTextWhichGetLendsToEveryHandle},
-    {"NullParametersAreRefusedInOrderAndKeepTheText", NullParametersAreRefusedInOrderAndKeepTheText},
-    {"OtherKindsAreRefusedNamingBothTypes", OtherKindsAreRefusedNamingBothTypes},
-    {"ConvertsCopyTheTextIntoABufferOrAMallocedString",
-     ConvertsCopyTheTextIntoABufferOrAMallocedString},
-    {"ConvertsConsumeTheHandleOnEveryFailureButANullObject",
-     ConvertsConsumeTheHandleOnEveryFailureButANullObject},
-    {"EmbeddedNulIsKeptByTheCopiesButEndsTheCString",
-     EmbeddedNulIsKeptByTheCopiesButEndsTheCString},
-    {"AFailedAllocationIsReportedAndKeepsTheText", AFailedAllocationIsReportedAndKeepsTheText},
+    TEST_CASE(CreateAndSetCopyTheTextWhichGetLendsToEveryHandle),
+    TEST_CASE(NullParametersAreRefusedInOrderAndKeepTheText),
+    TEST_CASE(OtherKindsAreRefusedNamingBothTypes),
+    TEST_CASE(ConvertsCopyTheTextIntoABufferOrAMallocedString),
+    TEST_CASE(ConvertsConsumeTheHandleOnEveryFailureButANullObject),
+    TEST_CASE(EmbeddedNulIsKeptByTheCopiesButEndsTheCString),
+    TEST_CASE(AFailedAllocationIsReportedAndKeepsTheText),
 };
 size_t const StringTestCount = sizeof StringTests / sizeof StringTests[0];
