@@ -1,5 +1,5 @@
 // Helpers shared by the serialization tests: the bytes of the binary form,
-// and test::Box, a registered test kind that holds one child value, so that
+// the failed check of a JSON document, and test::Box, a registered test kind that holds one child value, so that
 // nesting can be tested through Save and Load with any depth of values.
 #pragma once
 
@@ -30,6 +30,16 @@ inline std::string Id(char const* typeName) {
 
 // The endianness byte of a little-endian stream.
 inline std::string const Little = "\x01";
+
+// The failed check a JSON document is refused with, or "no error".
+inline std::string CheckOf(std::string const& document) {
+  try {
+    ryx::object::FromJson(document);
+  } catch (cereal::archive::JsonParseError const& error) {
+    return error.GetCheck();
+  }
+  return "no error";
+}
 
 inline constexpr char const* BoxName = "test.serialize.Box";
 

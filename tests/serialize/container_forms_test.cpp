@@ -112,7 +112,7 @@ TEST(ContainerForms, WriteTheExampleAsTemplateData) {
             "ryx.object.Array: [ryx.object.Int32=7] [ryx.object.Dictionary name=abc] schema 0");
 }
 
-TEST(ContainerForms, RoundTripEveryKindInEveryForm) {
+TEST(ContainerForms, RoundTripEveryKindAndNullChildrenInEveryForm) {
   auto const pointer = std::make_shared<Pointer<Object, void>>();
   pointer->Set(std::make_shared<int>(1), MurmurThree32::MakeData("test.Pointee"));
   Required const schema(Object::TypeIdOf<Array<Object>>(), {Required(Object::TypeIdOf<Int32>())});
@@ -121,9 +121,11 @@ TEST(ContainerForms, RoundTripEveryKindInEveryForm) {
   auto const value = std::make_shared<Dictionary<Object>>(
       Object::TypeIdOf<Dictionary<Object>>(), schema,
       Properties{{"typed", typed}, {"nested", Example()}});
-  auto const all = std::make_shared<Array<Object>>(Objects{
-      value, std::make_shared<Enum<Object>>(enumeration::Dummy{65535}), pointer,
-      std::make_shared<Pointer<Object, void const>>()});
+  auto const all = std::make_shared<Array<Object>>(
+      Objects{value, std::make_shared<Enum<Object>>(enumeration::Dummy{65535}), pointer,
+              std::make_shared<Pointer<Object, void const>>(), std::make_shared<Int32>(0)});
+  *all->GetSlot(4) = nullptr;  // what loading a null record leaves
+  EXPECT_NO_THROW(ToTemplateData(all));
   for (auto const& loaded : {FromJson(ToJson(all)), FromXml(ToXml(all)), FromBinary(ToBinary(all))}) {
     ASSERT_TRUE(loaded);
     auto const& array = loaded->As<Array<Object>>();
@@ -134,17 +136,7 @@ TEST(ContainerForms, RoundTripEveryKindInEveryForm) {
     EXPECT_EQ(loadedPointer.GetPointer(), nullptr);
     EXPECT_EQ(loadedPointer.GetPointeeType(), pointer->GetPointeeType());
     EXPECT_TRUE((array.Get(3)->Is<Pointer<Object, void const>>()));
-  }
-}
-
-TEST(ContainerForms, KeepNullChildrenAsNull) {
-  auto const array = std::make_shared<Array<Object>>(Objects{std::make_shared<Int32>(1), std::make_shared<Int32>(2)});
-  *array->GetSlot(0) = nullptr;
-  EXPECT_NE(ToJson(array).find("{\n            \"typename\": \"\"\n        }"), std::string::npos);
-  for (auto const& loaded : {FromJson(ToJson(array)), FromXml(ToXml(array)), FromBinary(ToBinary(array))}) {
-    ASSERT_TRUE(loaded);
-    EXPECT_EQ(loaded->As<Array<Object>>().Get(0), nullptr);
-    EXPECT_TRUE(loaded->EqualTo(*array));
+    EXPECT_EQ(array.Get(4), nullptr);
   }
 }
 
@@ -180,30 +172,19 @@ TEST(ContainerForms, LoadWhatTheDocumentHoldsWithoutElementChecks) {
   EXPECT_EQ(array.Get(1), nullptr);
 }
 
-TEST(ContainerForms, ReportTheFailedCheckOfAMemberOfTheWrongKind) {
-  auto const checkOf = [](std::string const& document) {
-    try {
-      FromJson(document);
-    } catch (cereal::archive::JsonParseError const& error) {
-      return std::string(error.GetCheck());
-    }
-    return std::string("no error");
-  };
-  EXPECT_EQ(checkOf(R"({"typename": "ryx.object.Array", "required": {"type": 0, "child_types": []},
-                        "objects": 5})"),
-            "IsObject()");  // cereal enters every node as an object first
-  EXPECT_EQ(checkOf(R"({"typename": "ryx.object.Array", "required": {"type": 0, "child_types": []},
-                        "objects": [5]})"),
+// cereal enters every node as an object first.
+TEST(ContainerForms, AMemberOfTheWrongKindFailsItsCheckAndChangesNothing) {
+  std::string const notAList = R"({"typename": "ryx.object.Array",
+    "required": {"type": 0, "child_types": []}, "objects": 5})";
+  EXPECT_EQ(test::CheckOf(notAList), "IsObject()");
+  EXPECT_EQ(test::CheckOf(R"({"typename": "ryx.object.Array",
+    "required": {"type": 0, "child_types": []}, "objects": [5]})"),
             "IsObject()");
-  EXPECT_EQ(checkOf(R"({"typename": "ryx.object.Enum", "type": -1, "value": 0})"),
+  EXPECT_EQ(test::CheckOf(R"({"typename": "ryx.object.Enum", "type": -1, "value": 0})"),
             "data_.f.flags & kUintFlag");
-}
-
-TEST(ContainerForms, ADirectLoadChangesNothingWhenItFails) {
   Required const int32Schema(Object::TypeIdOf<Int32>());
   Array<Object> target(int32Schema, {std::make_shared<Int32>(9)});
-  std::istringstream in(R"({"typename": "ryx.object.Array",
-    "required": {"type": 0, "child_types": []}, "objects": 5})");
+  std::istringstream in(notAList);
   cereal::JSONInputArchive archive(in);
   EXPECT_THROW(target.Serialize(archive), cereal::archive::JsonParseError);
   EXPECT_EQ(target.Size(), 1u);

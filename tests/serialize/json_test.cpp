@@ -1,5 +1,5 @@
 // What the JSON reader accepts and refuses, and the JSON form of a schema.
-#include <ryx/object.hpp>
+#include "serialize/box.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,15 +9,7 @@
 namespace {
 
 using namespace ryx::object;
-
-std::string CheckOf(std::string const& document) {
-  try {
-    FromJson(document);
-  } catch (cereal::archive::JsonParseError const& error) {
-    return error.GetCheck();
-  }
-  return "no error";
-}
+using test::CheckOf;
 
 std::string Value(char const* typeName, std::string const& value) {
   return std::string(R"({"typename":")") + typeName + R"(","value":)" + value + "}";
@@ -83,27 +75,30 @@ TEST(JsonForm, FailsCleanlyOnAMillionNestedArrays) {
 }
 
 TEST(JsonForm, WritesAndReadsASchemaThroughItsCerealHooks) {
-  Required const schema(
-      Object::TypeIdOf<Int32>(),
-      {Required(Object::TypeIdOf<Bool>()), Required{Required(Object::TypeIdOf<String>())}});
+  Required const schema(Object::TypeIdOf<Int32>(), {Required{Required(Object::TypeIdOf<Bool>())}});
   std::ostringstream text;
   {
     cereal::JSONOutputArchive archive(text);
     archive(cereal::make_nvp("required", schema));
   }
-  std::string const expected =
-      "{\n    \"required\": {\n        \"type\": " +
-      std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
-      ",\n        \"child_types\": [\n            {\n                \"type\": " +
-      std::to_string(Object::TypeIdOf<Bool>().GetValue()) +
-      ",\n                \"child_types\": []\n            },\n"
-      "            {\n                \"type\": 0,\n"
-      "                \"child_types\": [\n                    {\n"
-      "                        \"type\": " +
-      std::to_string(Object::TypeIdOf<String>().GetValue()) +
-      ",\n                        \"child_types\": []\n"
-      "                    }\n                ]\n            }\n        ]\n"
-      "    }\n}";
+  std::string expected = R"({
+    "required": {
+        "type": INT32,
+        "child_types": [
+            {
+                "type": 0,
+                "child_types": [
+                    {
+                        "type": BOOL,
+                        "child_types": []
+                    }
+                ]
+            }
+        ]
+    }
+})";
+  expected.replace(expected.find("INT32"), 5, std::to_string(Object::TypeIdOf<Int32>().GetValue()));
+  expected.replace(expected.find("BOOL"), 4, std::to_string(Object::TypeIdOf<Bool>().GetValue()));
   EXPECT_EQ(text.str(), expected);
   std::istringstream in(text.str());
   cereal::JSONInputArchive archive(in);

@@ -19,18 +19,6 @@ class SaveLoad : public ::testing::Test {
   void TearDown() override { SetNestingLimit(DefaultNestingLimit); }
 };
 
-TEST_F(SaveLoad, EveryLibraryKindHasEveryFunction) {
-  for (auto const id : {Object::TypeIdOf<Bool>(), Object::TypeIdOf<Double>(),
-                        Object::TypeIdOf<String>(), Object::TypeIdOf<Enum<Object>>()}) {
-    std::ostringstream os;
-    os << Object::GetSaveFunctions(id) << ' ' << Object::GetLoadFunctions(id);
-    EXPECT_EQ(os.str(),
-              "{\"xml\":true,\"json\":true,\"binary\":true} "
-              "{\"xml\":true,\"json\":true,\"binary\":true}");
-    EXPECT_TRUE(std::get<3>(Object::GetSaveFunctions(id)));
-  }
-}
-
 TEST_F(SaveLoad, ASaveFunctionRefusesAnotherKind) {
   auto const save = std::get<1>(Object::GetSaveFunctions(Object::TypeIdOf<Int32>()));
   std::ostringstream text;
