@@ -102,9 +102,6 @@ TEST(Primitive, ParsesAStringValueAndKeepsItsValueWhenParsingFails) {
   UInt8 small(7);
   EXPECT_THROW(small.Set(String("256")), std::out_of_range);
   EXPECT_EQ(small.Get(), 7);
-  Bool flag;
-  flag.Set(String("true"));
-  EXPECT_TRUE(flag.Get());
   Double number;
   number.Set(String("2.5"));
   EXPECT_EQ(number.Get(), 2.5);
