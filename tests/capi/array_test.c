@@ -60,6 +60,7 @@ static void AddingConsumesTheObjectWhateverTheOutcome(void) {
                                                        RyxObjectInt32Create(2), NULL);
   RyxObject* const object = RyxObjectInt32Create(9);
   RyxObject* const keep = RyxObjectReference(object);
+  RyxObject* replaced;
   CHECK_STATUS(RyxObjectStatusOutOfRange, RyxObjectArraySetObject(array, 5, object));
   CHECK_LOGGED("RyxObjectArraySetObject: could not set array object: The index is out of range: 5 >= 3");
   CHECK(RyxObjectReferenceCount(keep) == 1);
@@ -69,7 +70,10 @@ static void AddingConsumesTheObjectWhateverTheOutcome(void) {
   CHECK_LOGGED("RyxObjectArrayInsertObject: could not insert array object: The index is out of range: 4 >= 3");
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayInsertObject(array, 3, RyxObjectReference(keep)));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayPrependObject(array, RyxObjectInt32Create(-1)));
+  replaced = RyxObjectReference(RyxObjectArrayPeek(array, 1));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArraySetObject(array, 1, RyxObjectInt32Create(10)));
+  CHECK(RyxObjectReferenceCount(replaced) == 1);
+  RyxObjectRelease(replaced);
   CHECK(RyxObjectArraySize(array) == 5);
   CHECK(Int32Of(RyxObjectArrayPeek(array, 0)) == -1);
   CHECK(Int32Of(RyxObjectArrayPeek(array, 1)) == 10);
