@@ -55,33 +55,19 @@ TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbe
   EXPECT_EQ(out, std::string("a\0bcs-42", 8));
 }
 
-struct Captured {
-  int calls = 0;
-  std::string logger;
-  int level = -1;
-  std::string message;
-};
-
-void Capture(char const* logger, int level, char const* message, void* context) {
-  auto* const captured = static_cast<Captured*>(context);
-  ++captured->calls;
-  captured->logger = logger;
-  captured->level = level;
-  captured->message = message;
-}
-
 TEST(LoggerLog, HandsInfoAndAboveToTheSinkOnceAndDropsTheRest) {
-  Captured captured;
-  RyxLoggingSetSink(Capture, &captured);
+  std::vector<std::string> heard;
+  RyxLoggingSetSink(
+      [](char const* logger, int level, char const* message, void* context) {
+        static_cast<std::vector<std::string>*>(context)->push_back(
+            std::string(logger) + ' ' + std::to_string(level) + ' ' + message);
+      },
+      &heard);
   Logger const logger(Name("ryx.object"));
   logger.Log(Level::Debug, "quiet");
-  EXPECT_EQ(captured.calls, 0);
   logger.Log(Level::Info, "%0%: the %1% parameter was NULL", "F", std::string("value"));
   RyxLoggingSetSink(nullptr, nullptr);
-  EXPECT_EQ(captured.calls, 1);
-  EXPECT_EQ(captured.logger, "ryx.object");
-  EXPECT_EQ(captured.level, 8);
-  EXPECT_EQ(captured.message, "F: the value parameter was NULL");
+  EXPECT_EQ(heard, std::vector<std::string>{"ryx.object 8 F: the value parameter was NULL"});
 }
 
 // A sink that counts its calls and notes any call after it was replaced.
