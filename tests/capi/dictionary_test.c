@@ -4,36 +4,28 @@
 #include <stdint.h>
 #include <string.h>
 
-static void CreatePairsConsumesEveryValue(void) {
+/* The dictionary takes over every value it is given; when it cannot be
+ * made, the values are released. */
+static void CreatePairsConsumesEveryValueWhateverTheOutcome(void) {
   RyxObject* const x = RyxObjectInt32Create(1);
   RyxObject* const keep = RyxObjectReference(x);
   RyxObject* const dictionary = RyxObjectDictCreatePairs("a", x, "b", RyxObjectInt32Create(2), NULL);
   RyxObject* const empty = RyxObjectDictCreatePairs(NULL);
   CHECK(RyxObjectDictInstanceOf(dictionary));
+  CHECK(RyxObjectDictType() == RyxObjectType(dictionary));
   CHECK(RyxObjectDictSize(dictionary) == 2);
   CHECK(Int32Of(RyxObjectDictPeek(dictionary, "a")) == 1);
   CHECK(RyxObjectReferenceCount(keep) == 2);
   CHECK(RyxObjectDictEmpty(empty));
-  CHECK(RyxObjectDictType() == RyxObjectType(dictionary));
   RyxObjectRelease(dictionary);
   RyxObjectRelease(empty);
   CHECK(RyxObjectReferenceCount(keep) == 1);
-  RyxObjectRelease(keep);
-  CHECK_SILENT();
-}
-
-static void CreatePairsRefusesRepeatedKeysAndMissingValues(void) {
-  RyxObject* const x = RyxObjectInt32Create(1);
-  RyxObject* const y = RyxObjectInt32Create(2);
-  RyxObject* const keepX = RyxObjectReference(x);
-  RyxObject* const keepY = RyxObjectReference(y);
-  CHECK(RyxObjectDictCreatePairs("a", x, "a", y, NULL) == NULL);
+  CHECK(RyxObjectDictCreatePairs("a", RyxObjectReference(keep), "a", RyxObjectInt32Create(2), NULL) == NULL);
   CHECK_LOGGED("RyxObjectDictCreatePairs: failed to create the RYX dictionary: Dictionary keys must be unique");
-  CHECK(RyxObjectReferenceCount(keepX) == 1 && RyxObjectReferenceCount(keepY) == 1);
+  CHECK(RyxObjectReferenceCount(keep) == 1);
   CHECK(RyxObjectDictCreatePairs("a", NULL) == NULL);
   CHECK_LOGGED("RyxObjectDictCreatePairs: failed to create the RYX dictionary: Must provide key/object pairs");
-  RyxObjectRelease(keepX);
-  RyxObjectRelease(keepY);
+  RyxObjectRelease(keep);
 }
 
 static void HandleTestsNameTheDictionaryType(void) {
@@ -119,8 +111,7 @@ static void KeysAndObjectsCanBeFoundRemovedAndPopped(void) {
 }
 
 TestCase const DictionaryTests[] = {
-    TEST_CASE(CreatePairsConsumesEveryValue),
-    TEST_CASE(CreatePairsRefusesRepeatedKeysAndMissingValues),
+    TEST_CASE(CreatePairsConsumesEveryValueWhateverTheOutcome),
     TEST_CASE(HandleTestsNameTheDictionaryType),
     TEST_CASE(SetReplacesWithoutASchemaCheckWhileInsertChecks),
     TEST_CASE(KeysAndObjectsCanBeFoundRemovedAndPopped),

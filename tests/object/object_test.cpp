@@ -54,13 +54,6 @@ TEST(Object, CopiesIntoANewValueOrNothingForAnUnregisteredTypeOrNull) {
   EXPECT_EQ(shared->As<String>().Get(), "s");
 }
 
-TEST(Object, ACopyConstructedValueStartsWithoutASelfReference) {
-  auto const original = std::make_shared<Int32>(2);
-  EXPECT_EQ(original->shared_from_this(), original);
-  Int32 copy(*original);
-  EXPECT_TRUE(copy.weak_from_this().expired());
-}
-
 TEST(Object, ANonContainerWalksAsEmptyAndReportsTheEmptySchema) {
   Int32 value;
   Int32 const& constant = value;
