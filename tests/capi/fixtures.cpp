@@ -29,7 +29,9 @@ extern "C" RyxObject* MakeStringWithNul(void) {
   return Convert(std::make_shared<String>(std::string("a\0b", 3)));
 }
 
-extern "C" RyxObject* MakeUnregisteredValue(void) { return Convert(std::make_shared<Unregistered>()); }
+extern "C" RyxObject* MakeUnregisteredValue(void) {
+  return Convert(std::make_shared<Unregistered>());
+}
 
 extern "C" RyxObject* MakeEmptyHandle(void) {
   // The handle's layout: a heap-allocated std::shared_ptr<Object>.

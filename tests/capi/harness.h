@@ -40,7 +40,7 @@ int32_t Int32Of(RyxObject const* handle);
 #define TEST_CASE(function) {#function, function}
 
 /* The test tables of the test files. */
-#define DECLARE_TESTS(Group)              \
+#define DECLARE_TESTS(Group)            \
   extern TestCase const Group##Tests[]; \
   extern size_t const Group##TestCount
 DECLARE_TESTS(Generic);

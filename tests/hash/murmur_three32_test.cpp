@@ -67,7 +67,8 @@ TEST(MurmurThree32, HashesAndPrintsAsItsValue) {
   std::ostringstream os;
   os << id;
   EXPECT_EQ(os.str(), "4294967295");
-  EXPECT_EQ((std::unordered_set<MurmurThree32>{id, MurmurThree32(1u), MurmurThree32(1u)}).size(), 2u);
+  EXPECT_EQ((std::unordered_set<MurmurThree32>{id, MurmurThree32(1u), MurmurThree32(1u)}).size(),
+            2u);
 }
 
 }  // namespace

@@ -58,10 +58,13 @@ TEST(Containers, CopyAndCompareANullElementLeftByLoading) {
 }
 
 TEST(Array, ConstructionChecksEveryElement) {
-  EXPECT_EQ(MessageOf<std::invalid_argument>([] { Array<Object>(Objects{MakeInt(1), nullptr}); }),
+  EXPECT_EQ(MessageOf<std::invalid_argument>([] {
+              Array<Object>(Objects{MakeInt(1), nullptr});
+            }),
             NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>(
-                [] { Array<Object>(Int32Schema, {MakeInt(1), MakeBool(true)}); }),
+  EXPECT_EQ(MessageOf<std::invalid_argument>([] {
+              Array<Object>(Int32Schema, {MakeInt(1), MakeBool(true)});
+            }),
             "The object 'ryx.object.Bool' did not match the required type 'ryx.object.Int32'");
   EXPECT_EQ(Array<Object>(Int32Schema, {MakeInt(1), MakeInt(2)}).Size(), 2u);
 }
@@ -125,7 +128,9 @@ TEST(Array, RefusesNullElementsWithTheMessageOfEachPath) {
             "Cannot set null object pointers in an array");
   EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Append(nullptr); }), NullObject);
   EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Prepend(nullptr); }), NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Insert(0, {MakeInt(1), nullptr}); }),
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] {
+              array.Insert(0, {MakeInt(1), nullptr});
+            }),
             NullObject);
   EXPECT_EQ(array.Size(), 1u);
 }
@@ -135,8 +140,8 @@ TEST(Array, ComparesLengthElementsAndSchema) {
   EXPECT_TRUE(a.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("x")})));
   EXPECT_FALSE(a.EqualTo(Array<Object>(Objects{MakeInt(1)})));
   EXPECT_FALSE(a.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("y")})));
-  EXPECT_FALSE(a.EqualTo(
-      Array<Object>(Required{Int32Schema, StringSchema}, {MakeInt(1), MakeString("x")})));
+  EXPECT_FALSE(
+      a.EqualTo(Array<Object>(Required{Int32Schema, StringSchema}, {MakeInt(1), MakeString("x")})));
   EXPECT_THROW(static_cast<void>(a.EqualTo(Int32(5))), BadCast);
 }
 
@@ -188,9 +193,12 @@ TEST(Dictionary, WalksEachValueOnceAndNeverAKey) {
 }
 
 TEST(Dictionary, ConstructionRefusesNullValuesButDoesNotCheckTheSchema) {
-  EXPECT_EQ(MessageOf<std::invalid_argument>([] { Dictionary<Object>(Properties{{"a", nullptr}}); }),
+  EXPECT_EQ(MessageOf<std::invalid_argument>([] {
+              Dictionary<Object>(Properties{{"a", nullptr}});
+            }),
             "Must provide valid object pointers when creating a dictionary");
-  Dictionary<Object> const unchecked(DictionaryId(), Int32Schema, Properties{{"f", MakeBool(true)}});
+  Dictionary<Object> const unchecked(DictionaryId(), Int32Schema,
+                                     Properties{{"f", MakeBool(true)}});
   EXPECT_EQ(unchecked.Size(), 1u);
   EXPECT_EQ(unchecked.GetRequired(), Int32Schema);
 }
@@ -201,8 +209,7 @@ TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
   Snapshot const before = Snapshot::Of(dictionary);
   // A wrong value is reported before an existing key.
   EXPECT_THROW(dictionary.Insert("a", MakeBool(true)), std::invalid_argument);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { dictionary.Insert("b", nullptr); }),
-            NullObject);
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { dictionary.Insert("b", nullptr); }), NullObject);
   EXPECT_THROW(dictionary.Insert("a", MakeInt(2)), std::logic_error);
   EXPECT_EQ(Snapshot::Of(dictionary), before);
   EXPECT_EQ(dictionary.Get("a"), first);
@@ -217,11 +224,13 @@ TEST(Dictionary, APerPositionSchemaAppliesAsAWholeToEachInsertedValue) {
 TEST(Dictionary, ComparesKeysValuesAndSchema) {
   Dictionary<Object> const a(Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}});
   EXPECT_TRUE(a.EqualTo(Dictionary<Object>(Properties{{"y", MakeString("s")}, {"x", MakeInt(1)}})));
-  EXPECT_FALSE(a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(1)}, {"z", MakeString("s")}})));
-  EXPECT_FALSE(a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(2)}, {"y", MakeString("s")}})));
+  EXPECT_FALSE(
+      a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(1)}, {"z", MakeString("s")}})));
+  EXPECT_FALSE(
+      a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(2)}, {"y", MakeString("s")}})));
   EXPECT_FALSE(a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(1)}})));
-  EXPECT_FALSE(a.EqualTo(Dictionary<Object>(DictionaryId(), StringSchema,
-                                            Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}})));
+  EXPECT_FALSE(a.EqualTo(Dictionary<Object>(
+      DictionaryId(), StringSchema, Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}})));
   EXPECT_THROW(static_cast<void>(a.EqualTo(Int32(1))), BadCast);
 }
 
@@ -249,7 +258,8 @@ TEST(Dictionary, AFailedCopyNamesTheCauseAndLeavesTheTargetAsItWas) {
 // A per-position schema cannot describe a dictionary's values, so such a
 // source is refused, and the target is left empty.
 TEST(Dictionary, RefusesAPerPositionSchemaFromACopyOrASchema) {
-  Dictionary<Object> const source(DictionaryId(), Required{Int32Schema}, Properties{{"a", MakeInt(1)}});
+  Dictionary<Object> const source(DictionaryId(), Required{Int32Schema},
+                                  Properties{{"a", MakeInt(1)}});
   Dictionary<Object> target(Properties{{"b", MakeInt(2)}});
   EXPECT_EQ(MessageOf<std::invalid_argument>([&] { target.Set(source); }), SizeMismatch);
   EXPECT_TRUE(target.Empty());

@@ -10,9 +10,9 @@
 namespace {
 
 using namespace ryx::object;
-using ryx::object::testing::MessageOf;
 using container::ConstIterator;
 using container::Iterator;
+using ryx::object::testing::MessageOf;
 using Objects = std::vector<std::shared_ptr<Object>>;
 
 Objects ThreeInts() {

@@ -16,10 +16,10 @@ using namespace ryx::object;
 using ryx::hash::MurmurThree32;
 
 char const* const KindNames[] = {
-    "ryx.object.Bool",   "ryx.object.Int8",       "ryx.object.Int16",  "ryx.object.Int32",
-    "ryx.object.Int64",  "ryx.object.UInt8",      "ryx.object.UInt16", "ryx.object.UInt32",
-    "ryx.object.UInt64", "ryx.object.Float",      "ryx.object.Double", "ryx.object.String",
-    "ryx.object.Array",  "ryx.object.Dictionary", "ryx.object.Enum",   "ryx.object.Pointer",
+    "ryx.object.Bool",         "ryx.object.Int8",       "ryx.object.Int16",  "ryx.object.Int32",
+    "ryx.object.Int64",        "ryx.object.UInt8",      "ryx.object.UInt16", "ryx.object.UInt32",
+    "ryx.object.UInt64",       "ryx.object.Float",      "ryx.object.Double", "ryx.object.String",
+    "ryx.object.Array",        "ryx.object.Dictionary", "ryx.object.Enum",   "ryx.object.Pointer",
     "ryx.object.ConstPointer",
 };
 constexpr std::size_t KindCount = sizeof(KindNames) / sizeof(KindNames[0]);

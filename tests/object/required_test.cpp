@@ -45,11 +45,10 @@ TEST(Required, TheEmptySchemaAcceptsEveryValueButNullAndMakesNothing) {
 }
 
 TEST(Required, ValidatingConstructorsRejectEmptyChildrenButRangeConstructorsKeepThem) {
-  for (auto const& make : {+[] { Required{Required(), Required(Int32Id)}; },
-                           +[] { Required(Int32Id, {Required(Int32Id), Required()}); },
-                           +[] { Required(std::vector<Required>{Required()}); }}) {
-    EXPECT_EQ(InvalidArgumentOf(make), "Cannot have empty required types");
-  }
+  std::string const empty = "Cannot have empty required types";
+  EXPECT_EQ(InvalidArgumentOf([] { Required{Required(), Required(Int32Id)}; }), empty);
+  EXPECT_EQ(InvalidArgumentOf([] { Required(Int32Id, {Required(Int32Id), Required()}); }), empty);
+  EXPECT_EQ(InvalidArgumentOf([] { Required(std::vector<Required>{Required()}); }), empty);
   std::vector<Required> const children{Required(), Required(Int32Id)};
   EXPECT_EQ(Required(children.begin(), children.end()).GetChildTypes(), children);
   Required const typed(StringId, children.begin(), children.end());
@@ -72,7 +71,8 @@ TEST(Required, ATypedSchemaChecksTheValuesTypeAndThatOnlyContainersHaveChildType
   EXPECT_NO_THROW(Required(Int32Id).Check(Int32(1)));
   EXPECT_EQ(InvalidArgumentOf([&] { Required(Int32Id).Check(Double(1)); }),
             "The object 'ryx.object.Double' did not match the required type 'ryx.object.Int32'");
-  EXPECT_EQ(InvalidArgumentOf([&] { Required(MurmurThree32::MakeData("no.such.Type")).Check(Double(1)); }),
+  EXPECT_EQ(InvalidArgumentOf(
+                [&] { Required(MurmurThree32::MakeData("no.such.Type")).Check(Double(1)); }),
             "The object 'ryx.object.Double' did not match the required type '[not-registered]'");
   EXPECT_EQ(InvalidArgumentOf([&] { Required(Int32Id, {Required(Int32Id)}).Check(Int32(1)); }),
             "The object 'ryx.object.Int32' specifies a required of: {\"types\":[], \"type:\"0} "
@@ -92,10 +92,11 @@ TEST(Required, AnElementSchemaAppliesToEveryElementAndAPerPositionOneToEachInTur
   EXPECT_EQ(InvalidArgumentOf([&] { perPosition.Check(Elements{std::make_shared<Int32>(1)}); }),
             SizeMismatch);
   EXPECT_EQ(InvalidArgumentOf([&] { perPosition.Check(Elements{}); }), SizeMismatch);
-  EXPECT_EQ(InvalidArgumentOf([&] {
-              perPosition.Check(Elements{std::make_shared<String>("s"), std::make_shared<Int32>(1)});
-            }),
-            "The object 'ryx.object.String' did not match the required type 'ryx.object.Int32'");
+  EXPECT_EQ(
+      InvalidArgumentOf([&] {
+        perPosition.Check(Elements{std::make_shared<String>("s"), std::make_shared<Int32>(1)});
+      }),
+      "The object 'ryx.object.String' did not match the required type 'ryx.object.Int32'");
 }
 
 TEST(Required, ChecksTheValuesOfAMap) {

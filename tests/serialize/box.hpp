@@ -1,6 +1,7 @@
 // Helpers shared by the serialization tests: the bytes of the binary form,
-// the failed check of a JSON document, and test::Box, a registered test kind that holds one child value, so that
-// nesting can be tested through Save and Load with any depth of values.
+// the failed check of a JSON document, and test::Box, a registered test kind
+// that holds one child value, so that nesting can be tested through Save and
+// Load with any depth of values.
 #pragma once
 
 #include <ryx/object.hpp>

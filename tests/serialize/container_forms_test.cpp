@@ -20,8 +20,8 @@ using test::Id;
 
 // [Int32 7, {"name": String "abc"}], both containers under the default schema.
 std::shared_ptr<Object> Example() {
-  auto const record = std::make_shared<Dictionary<Object>>(
-      Properties{{"name", std::make_shared<String>("abc")}});
+  auto const record =
+      std::make_shared<Dictionary<Object>>(Properties{{"name", std::make_shared<String>("abc")}});
   return std::make_shared<Array<Object>>(Objects{std::make_shared<Int32>(7), record});
 }
 
@@ -93,23 +93,23 @@ TEST(ContainerForms, WriteTheExampleAsXml) {
 }
 
 TEST(ContainerForms, WriteTheExampleAsEightyFourBinaryBytes) {
-  std::string const expected = test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
-                               Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{2}) +
-                               Id("ryx.object.Int32") + Bytes(std::int32_t{7}) +
-                               Id("ryx.object.Dictionary") + Bytes(std::uint64_t{1}) +
-                               Bytes(std::uint64_t{4}) + "name" + Id("ryx.object.String") +
-                               Bytes(std::uint64_t{3}) + "abc" + Bytes(std::uint32_t{0}) +
-                               Bytes(std::uint64_t{0});
+  std::string const expected =
+      test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) + Bytes(std::uint64_t{0}) +
+      Bytes(std::uint64_t{2}) + Id("ryx.object.Int32") + Bytes(std::int32_t{7}) +
+      Id("ryx.object.Dictionary") + Bytes(std::uint64_t{1}) + Bytes(std::uint64_t{4}) + "name" +
+      Id("ryx.object.String") + Bytes(std::uint64_t{3}) + "abc" + Bytes(std::uint32_t{0}) +
+      Bytes(std::uint64_t{0});
   ASSERT_EQ(expected.size(), 84u);
   EXPECT_EQ(ToBinary(Example()), expected);
 }
 
 TEST(ContainerForms, WriteTheExampleAsTemplateData) {
-  EXPECT_EQ(Render("{{typename}}:{{#objects}} [{{typename}}{{#is.typename.ryx.object.Int32}}="
-                   "{{value}}{{/is.typename.ryx.object.Int32}}{{#properties}} {{key}}={{value.value}}"
-                   "{{/properties}}]{{/objects}} schema {{required.type}}",
-                   Example()),
-            "ryx.object.Array: [ryx.object.Int32=7] [ryx.object.Dictionary name=abc] schema 0");
+  EXPECT_EQ(
+      Render("{{typename}}:{{#objects}} [{{typename}}{{#is.typename.ryx.object.Int32}}="
+             "{{value}}{{/is.typename.ryx.object.Int32}}{{#properties}} {{key}}={{value.value}}"
+             "{{/properties}}]{{/objects}} schema {{required.type}}",
+             Example()),
+      "ryx.object.Array: [ryx.object.Int32=7] [ryx.object.Dictionary name=abc] schema 0");
 }
 
 TEST(ContainerForms, RoundTripEveryKindAndNullChildrenInEveryForm) {
@@ -118,15 +118,16 @@ TEST(ContainerForms, RoundTripEveryKindAndNullChildrenInEveryForm) {
   Required const schema(Object::TypeIdOf<Array<Object>>(), {Required(Object::TypeIdOf<Int32>())});
   auto const typed = std::make_shared<Array<Object>>(Required(Object::TypeIdOf<Int32>()),
                                                      Objects{std::make_shared<Int32>(1)});
-  auto const value = std::make_shared<Dictionary<Object>>(
-      Object::TypeIdOf<Dictionary<Object>>(), schema,
-      Properties{{"typed", typed}, {"nested", Example()}});
+  auto const value =
+      std::make_shared<Dictionary<Object>>(Object::TypeIdOf<Dictionary<Object>>(), schema,
+                                           Properties{{"typed", typed}, {"nested", Example()}});
   auto const all = std::make_shared<Array<Object>>(
       Objects{value, std::make_shared<Enum<Object>>(enumeration::Dummy{65535}), pointer,
               std::make_shared<Pointer<Object, void const>>(), std::make_shared<Int32>(0)});
   *all->GetSlot(4) = nullptr;  // what loading a null record leaves
   EXPECT_NO_THROW(ToTemplateData(all));
-  for (auto const& loaded : {FromJson(ToJson(all)), FromXml(ToXml(all)), FromBinary(ToBinary(all))}) {
+  for (auto const& loaded :
+       {FromJson(ToJson(all)), FromXml(ToXml(all)), FromBinary(ToBinary(all))}) {
     ASSERT_TRUE(loaded);
     auto const& array = loaded->As<Array<Object>>();
     EXPECT_TRUE(array.Get(0)->EqualTo(*value));
@@ -161,7 +162,8 @@ TEST(ContainerForms, LoadTheFirstOfRepeatedKeysAndMembersInAnyOrder) {
 
 TEST(ContainerForms, LoadWhatTheDocumentHoldsWithoutElementChecks) {
   std::string const json = R"({"typename": "ryx.object.Array",
-    "required": {"type": )" + std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
+    "required": {"type": )" +
+                           std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
                            R"(, "child_types": []},
     "objects": [{"typename": "ryx.object.Bool", "value": true}, {"typename": "no.such.Type"}]})";
   auto const loaded = FromJson(json);

@@ -53,10 +53,10 @@ TEST(JsonForm, RefusesMissingMembersAndEmptyNodes) {
 }
 
 TEST(JsonForm, RefusesNumbersThatTheNumberParserWouldMisread) {
-  for (std::string const& misread : {std::string("0e-300"), std::string("-0e30"),
-                                     std::string("0.00000000000000000000000"),
-                                     std::string("0.0e-23"), "0." + std::string(400, '0') + "1",
-                                     std::string("1e-331"), std::string("-0.01e-330")}) {
+  for (std::string const& misread :
+       {std::string("0e-300"), std::string("-0e30"), std::string("0.00000000000000000000000"),
+        std::string("0.0e-23"), "0." + std::string(400, '0') + "1", std::string("1e-331"),
+        std::string("-0.01e-330")}) {
     EXPECT_THROW(FromJson(Value("ryx.object.Double", misread)), cereal::archive::JsonParseError)
         << misread;
   }

@@ -50,8 +50,8 @@ std::vector<Written> EveryKind() {
        Bytes<std::uint32_t>(4294967295u), "4294967295"},
       {std::make_shared<UInt64>(uint64Max), "18446744073709551615",
        "<value>18446744073709551615</value>", std::string(8, '\xFF'), "18446744073709551615"},
-      {std::make_shared<Float>(0.5f), "0.5", "<value>0.5</value>", Bytes<std::uint32_t>(0x3F000000u),
-       "0.5"},
+      {std::make_shared<Float>(0.5f), "0.5", "<value>0.5</value>",
+       Bytes<std::uint32_t>(0x3F000000u), "0.5"},
       {std::make_shared<Double>(2.0), "2.0", "<value>2</value>",
        Bytes<std::uint64_t>(0x4000000000000000ull), "2"},
       {std::make_shared<String>("a<\"b"), R"("a<\"b")", "<value>a&lt;&quot;b</value>",
@@ -67,8 +67,8 @@ TEST(PrimitiveForms, EveryKindIsWrittenAsItsTypeAndValueInEveryForm) {
   for (Written const& written : EveryKind()) {
     std::string const name = Object::TypeName(written.value->GetType());
     SCOPED_TRACE(name + " " + written.json);
-    EXPECT_EQ(ToJson(written.value), "{\n    \"typename\": \"" + name + "\",\n    \"value\": " +
-                                         written.json + "\n}");
+    EXPECT_EQ(ToJson(written.value),
+              "{\n    \"typename\": \"" + name + "\",\n    \"value\": " + written.json + "\n}");
     EXPECT_EQ(ToXml(written.value),
               XmlDocument("\t<typename>" + name + "</typename>\n\t" + written.xml + "\n"));
     EXPECT_EQ(ToBinary(written.value), Little + Id(name.c_str()) + written.binary);
@@ -95,17 +95,17 @@ TEST(PrimitiveForms, ANullValueIsWrittenAsAnEmptyTypeAndLoadsAsNull) {
 
 TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
   std::vector<std::shared_ptr<Object const>> values{
-      std::make_shared<Bool>(false),     std::make_shared<Int8>(-128),
-      std::make_shared<Float>(0.1f),     std::make_shared<Float>(3.4e38f),
-      std::make_shared<Double>(0.1),     std::make_shared<Double>(-1e-300),
-      std::make_shared<Double>(1e-310),  std::make_shared<String>("line\nbreak \xc3\xa9 & x")};
+      std::make_shared<Bool>(false),    std::make_shared<Int8>(-128),
+      std::make_shared<Float>(0.1f),    std::make_shared<Float>(3.4e38f),
+      std::make_shared<Double>(0.1),    std::make_shared<Double>(-1e-300),
+      std::make_shared<Double>(1e-310), std::make_shared<String>("line\nbreak \xc3\xa9 & x")};
   for (Written const& written : EveryKind()) {
     values.push_back(written.value);
   }
   for (auto const& value : values) {
     SCOPED_TRACE(ToJson(value));
-    for (auto const& loaded : {FromJson(ToJson(value)), FromXml(ToXml(value)),
-                               FromBinary(ToBinary(value))}) {
+    for (auto const& loaded :
+         {FromJson(ToJson(value)), FromXml(ToXml(value)), FromBinary(ToBinary(value))}) {
       ASSERT_TRUE(loaded);
       EXPECT_TRUE(loaded->EqualTo(*value));
       EXPECT_FALSE(loaded->GetOptions().Test(Option::deserializing));
@@ -125,8 +125,10 @@ TEST(PrimitiveForms, AStringWithANulKeepsItsBytesOnlyInTheBinaryForm) {
 
 TEST(TemplateData, WritesNumbersAsShortDecimalText) {
   std::pair<std::shared_ptr<Object const>, char const*> const cases[] = {
-      {std::make_shared<Float>(0.1f), "0.1"},        {std::make_shared<Double>(1e20), "1e+20"},
-      {std::make_shared<Double>(100000), "100000"},  {std::make_shared<Double>(1000000), "1e+06"},
+      {std::make_shared<Float>(0.1f), "0.1"},
+      {std::make_shared<Double>(1e20), "1e+20"},
+      {std::make_shared<Double>(100000), "100000"},
+      {std::make_shared<Double>(1000000), "1e+06"},
       {std::make_shared<Double>(3.14159265), "3.14159"},
   };
   for (auto const& [value, text] : cases) {

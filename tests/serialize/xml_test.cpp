@@ -73,9 +73,9 @@ TEST(XmlForm, WritesTypeAttributesWhenTheArchiveAsksForThem) {
     archive(cereal::make_nvp("required", Required(Object::TypeIdOf<Int16>())));
   }
   std::string const xml = text.str();
-  for (char const* part : {"<value type=\"short\">3</value>",
-                           "<required type=\"ryx::object::Required\">",
-                           "<type type=\"unsigned int\">", "size=\"dynamic\"/>"}) {
+  for (char const* part :
+       {"<value type=\"short\">3</value>", "<required type=\"ryx::object::Required\">",
+        "<type type=\"unsigned int\">", "size=\"dynamic\"/>"}) {
     EXPECT_NE(xml.find(part), std::string::npos) << part << " in " << xml;
   }
 }
