@@ -3,28 +3,32 @@
 
 #include <stdint.h>
 
-static int32_t Int32Of(RyxObject* handle) {
-  int32_t value = -1;
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
-  return value;
-}
-
+/* The array takes over every handle it is given, nested arrays included,
+ * and releases them with itself. */
 static void CreateConsumesEveryHandleInOrder(void) {
   RyxObject* const a = RyxObjectInt32Create(1);
-  RyxObject* const b = RyxObjectInt32Create(2);
   RyxObject* const keep = RyxObjectReference(a);
-  RyxObject* const array = RyxObjectArrayCreateObjects(a, b, NULL);
+  RyxObject* const inner = RyxObjectArrayCreateObjects(RyxObjectStringCreate("x"), NULL);
+  RyxObject* const keepInner = RyxObjectReference(inner);
+  RyxObject* const equal = RyxObjectInt32Create(1);
+  RyxObject* const array = RyxObjectArrayCreateObjects(a, RyxObjectInt32Create(2), inner, NULL);
   RyxObject* const empty = RyxObjectArrayCreateObjects(NULL);
   CHECK(RyxObjectArrayInstanceOf(array));
-  CHECK(RyxObjectArraySize(array) == 2);
+  CHECK(RyxObjectArrayType() == RyxObjectType(array));
+  CHECK(RyxObjectArraySize(array) == 3);
   CHECK(Int32Of(RyxObjectArrayPeek(array, 0)) == 1);
   CHECK(Int32Of(RyxObjectArrayPeek(array, 1)) == 2);
-  CHECK(RyxObjectReferenceCount(keep) == 2); /* `a` now lives in the array */
+  CHECK(RyxObjectReferenceCount(keep) == 2 && RyxObjectReferenceCount(keepInner) == 2);
+  /* Contains compares identity, not value. */
+  CHECK(RyxObjectArrayContains(array, keep) && !RyxObjectArrayContains(array, equal));
+  CHECK(!RyxObjectArrayContains(array, NULL) && !RyxObjectArrayContains(NULL, NULL));
   CHECK(RyxObjectArrayEmpty(empty));
-  CHECK(RyxObjectArrayType() == RyxObjectType(array));
   RyxObjectRelease(array);
-  CHECK(RyxObjectReferenceCount(keep) == 1);
+  CHECK(RyxObjectReferenceCount(keep) == 1 && RyxObjectReferenceCount(keepInner) == 1);
+  CHECK(RyxObjectArraySize(keepInner) == 1);
   RyxObjectRelease(keep);
+  RyxObjectRelease(keepInner);
+  RyxObjectRelease(equal);
   RyxObjectRelease(empty);
   CHECK_SILENT();
 }
@@ -56,6 +60,7 @@ static void AddingConsumesTheObjectWhateverTheOutcome(void) {
                                                        RyxObjectInt32Create(2), NULL);
   RyxObject* const object = RyxObjectInt32Create(9);
   RyxObject* const keep = RyxObjectReference(object);
+  RyxObject* replaced;
   CHECK_STATUS(RyxObjectStatusOutOfRange, RyxObjectArraySetObject(array, 5, object));
   CHECK_LOGGED("RyxObjectArraySetObject: could not set array object: The index is out of range: 5 >= 3");
   CHECK(RyxObjectReferenceCount(keep) == 1);
@@ -65,7 +70,10 @@ static void AddingConsumesTheObjectWhateverTheOutcome(void) {
   CHECK_LOGGED("RyxObjectArrayInsertObject: could not insert array object: The index is out of range: 4 >= 3");
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayInsertObject(array, 3, RyxObjectReference(keep)));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArrayPrependObject(array, RyxObjectInt32Create(-1)));
+  replaced = RyxObjectReference(RyxObjectArrayPeek(array, 1));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectArraySetObject(array, 1, RyxObjectInt32Create(10)));
+  CHECK(RyxObjectReferenceCount(replaced) == 1);
+  RyxObjectRelease(replaced);
   CHECK(RyxObjectArraySize(array) == 5);
   CHECK(Int32Of(RyxObjectArrayPeek(array, 0)) == -1);
   CHECK(Int32Of(RyxObjectArrayPeek(array, 1)) == 10);
@@ -89,21 +97,6 @@ static void ASchemaMismatchFailsAndLeavesTheArrayAsItWas(void) {
   CHECK(RyxObjectArraySize(bools) == 1);
   RyxObjectRelease(keep);
   RyxObjectRelease(bools);
-}
-
-static void ContainsComparesIdentityNotValue(void) {
-  RyxObject* const element = RyxObjectInt32Create(3);
-  RyxObject* const second = RyxObjectReference(element);
-  RyxObject* const equal = RyxObjectInt32Create(3);
-  RyxObject* const array = RyxObjectArrayCreateObjects(element, NULL);
-  CHECK(RyxObjectArrayContains(array, second));
-  CHECK(!RyxObjectArrayContains(array, equal));
-  CHECK(!RyxObjectArrayContains(array, NULL));
-  CHECK(!RyxObjectArrayContains(NULL, NULL));
-  CHECK_SILENT();
-  RyxObjectRelease(array);
-  RyxObjectRelease(second);
-  RyxObjectRelease(equal);
 }
 
 static void StorageCanGrowShrinkAndEmpty(void) {
@@ -154,25 +147,12 @@ static void PoppingHandsOverOwnership(void) {
   RyxObjectRelease(array);
 }
 
-static void NestedArraysAreReleasedWithTheirParent(void) {
-  RyxObject* const inner = RyxObjectArrayCreateObjects(RyxObjectStringCreate("x"), NULL);
-  RyxObject* const keep = RyxObjectReference(inner);
-  RyxObject* const outer = RyxObjectArrayCreateObjects(inner, NULL);
-  CHECK(RyxObjectReferenceCount(keep) == 2);
-  RyxObjectRelease(outer);
-  CHECK(RyxObjectReferenceCount(keep) == 1);
-  CHECK(RyxObjectArraySize(keep) == 1);
-  RyxObjectRelease(keep);
-}
-
 TestCase const ArrayTests[] = {
-    {"CreateConsumesEveryHandleInOrder", CreateConsumesEveryHandleInOrder},
-    {"HandleTestsComeFirstAndLeaveTheObjectUntouched", HandleTestsComeFirstAndLeaveTheObjectUntouched},
-    {"AddingConsumesTheObjectWhateverTheOutcome", AddingConsumesTheObjectWhateverTheOutcome},
-    {"ASchemaMismatchFailsAndLeavesTheArrayAsItWas", ASchemaMismatchFailsAndLeavesTheArrayAsItWas},
-    {"ContainsComparesIdentityNotValue", ContainsComparesIdentityNotValue},
-    {"StorageCanGrowShrinkAndEmpty", StorageCanGrowShrinkAndEmpty},
-    {"PoppingHandsOverOwnership", PoppingHandsOverOwnership},
-    {"NestedArraysAreReleasedWithTheirParent", NestedArraysAreReleasedWithTheirParent},
+    TEST_CASE(CreateConsumesEveryHandleInOrder),
+    TEST_CASE(HandleTestsComeFirstAndLeaveTheObjectUntouched),
+    TEST_CASE(AddingConsumesTheObjectWhateverTheOutcome),
+    TEST_CASE(ASchemaMismatchFailsAndLeavesTheArrayAsItWas),
+    TEST_CASE(StorageCanGrowShrinkAndEmpty),
+    TEST_CASE(PoppingHandsOverOwnership),
 };
 size_t const ArrayTestCount = sizeof ArrayTests / sizeof ArrayTests[0];

@@ -9,7 +9,7 @@
 
 namespace {
 
-using ryx::object::Object;
+using namespace ryx::object;
 
 class Unregistered : public Object {
  public:
@@ -18,14 +18,19 @@ class Unregistered : public Object {
   bool EqualTo(Object const& /*other*/) const override { return false; }
 };
 
+// An empty container of the kind `container`, its elements of the type `element`.
+RyxObject* MakeRequiring(ryx::hash::MurmurThree32 container, uint32_t element) {
+  return Convert(Required(container, {Required(ryx::hash::MurmurThree32(element))}).Make());
+}
+
 }  // namespace
 
 extern "C" RyxObject* MakeStringWithNul(void) {
-  return ryx::object::Convert(std::make_shared<ryx::object::String>(std::string("a\0b", 3)));
+  return Convert(std::make_shared<String>(std::string("a\0b", 3)));
 }
 
 extern "C" RyxObject* MakeUnregisteredValue(void) {
-  return ryx::object::Convert(std::make_shared<Unregistered>());
+  return Convert(std::make_shared<Unregistered>());
 }
 
 extern "C" RyxObject* MakeEmptyHandle(void) {
@@ -34,24 +39,15 @@ extern "C" RyxObject* MakeEmptyHandle(void) {
 }
 
 extern "C" RyxObject* MakeArrayRequiring(uint32_t type) {
-  ryx::hash::MurmurThree32 const element(type);
-  return ryx::object::Convert(
-      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Array<Object>>(),
-                            {ryx::object::Required(element)})
-          .Make());
+  return MakeRequiring(Object::TypeIdOf<Array<Object>>(), type);
 }
 
 extern "C" RyxObject* MakeDictionaryRequiring(uint32_t type) {
-  ryx::hash::MurmurThree32 const element(type);
-  return ryx::object::Convert(
-      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Dictionary<Object>>(),
-                            {ryx::object::Required(element)})
-          .Make());
+  return MakeRequiring(Object::TypeIdOf<Dictionary<Object>>(), type);
 }
 
 extern "C" RyxObject* MakeDefaultEnum(void) {
-  return ryx::object::Convert(
-      ryx::object::Required(ryx::object::Object::TypeIdOf<ryx::object::Enum<Object>>()).Make());
+  return Convert(Required(Object::TypeIdOf<Enum<Object>>()).Make());
 }
 
 // The test program replaces the global allocation functions, so that the

@@ -4,7 +4,7 @@
 #include <limits.h>
 #include <string.h>
 
-static void ReferenceOfNullIsNullAndSilent(void) {
+static void EveryGenericFunctionAcceptsNullSilently(void) {
   CHECK(RyxObjectReference(NULL) == NULL);
   CHECK(RyxObjectReferenceCount(NULL) == 0);
   RyxObjectRelease(NULL);
@@ -13,39 +13,20 @@ static void ReferenceOfNullIsNullAndSilent(void) {
   CHECK_SILENT();
 }
 
-static void ReferenceSharesTheValueAndCountsEveryOwner(void) {
+static void ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails(void) {
   RyxObject* const first = RyxObjectInt32Create(11);
-  RyxObject* second;
-  int32_t value = 0;
-  CHECK(RyxObjectReferenceCount(first) == 1);
-  second = RyxObjectReference(first);
+  RyxObject* const second = RyxObjectReference(first);
   CHECK(second != NULL && second != first);
-  CHECK(RyxObjectReferenceCount(first) == 2);
-  CHECK(RyxObjectReferenceCount(second) == 2);
+  CHECK(RyxObjectReferenceCount(first) == 2 && RyxObjectReferenceCount(second) == 2);
   RyxObjectRelease(second);
   CHECK(RyxObjectReferenceCount(first) == 1);
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(first, &value));
-  CHECK(value == 11);
+  CHECK(Int32Of(first) == 11);
+  FailNthAllocation(1);
+  CHECK(RyxObjectReference(first) == NULL);
+  FailNthAllocation(0);
+  CHECK(RyxObjectReferenceCount(first) == 1);
   RyxObjectRelease(first);
   CHECK_SILENT();
-}
-
-static void AFailedReferenceReturnsNullAndLeavesTheCount(void) {
-  RyxObject* const value = RyxObjectInt32Create(1);
-  FailNthAllocation(1);
-  CHECK(RyxObjectReference(value) == NULL);
-  FailNthAllocation(0);
-  CHECK(RyxObjectReferenceCount(value) == 1);
-  RyxObjectRelease(value);
-  CHECK_SILENT();
-}
-
-static void TypeAndTypeNameDescribeTheValue(void) {
-  RyxObject* const value = RyxObjectInt32Create(1);
-  CHECK(RyxObjectType(value) == RyxObjectInt32Type());
-  CHECK(RyxObjectType(value) != 0);
-  CHECK(strcmp(RyxObjectTypeName(value), "ryx.object.Int32") == 0);
-  RyxObjectRelease(value);
 }
 
 static void AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered(void) {
@@ -61,11 +42,9 @@ static void AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered(void) {
 
 static void AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased(void) {
   RyxObject* const empty = MakeEmptyHandle();
-  RyxObject* copy;
+  RyxObject* const copy = RyxObjectReference(empty);
   CHECK(RyxObjectReferenceCount(empty) == -1);
-  copy = RyxObjectReference(empty);
-  CHECK(copy != NULL);
-  CHECK(RyxObjectReferenceCount(copy) == -1);
+  CHECK(copy != NULL && RyxObjectReferenceCount(copy) == -1);
   RyxObjectRelease(copy);
   RyxObjectRelease(empty);
   CHECK_SILENT();
@@ -80,28 +59,24 @@ static void StatusMessagesCoverEveryValue(void) {
       "An argument was out of range in the API call",
       "Failed to allocate memory insdie the API function",
   };
+  char const* const negative = "The status was negative";
+  char const* const beyond = "The status was greater than the number of status error messages";
   int status;
   for (status = RyxObjectStatusSuccess; status <= RyxObjectStatusAllocationFailure; ++status) {
     CHECK(strcmp(RyxObjectStatusMessage(status), expected[status]) == 0);
   }
-  CHECK(strcmp(RyxObjectStatusMessage(-1), "The status was negative") == 0);
-  CHECK(strcmp(RyxObjectStatusMessage(INT_MIN), "The status was negative") == 0);
-  CHECK(strcmp(RyxObjectStatusMessage(6),
-               "The status was greater than the number of status error messages") == 0);
-  CHECK(strcmp(RyxObjectStatusMessage(INT_MAX),
-               "The status was greater than the number of status error messages") == 0);
+  CHECK(strcmp(RyxObjectStatusMessage(-1), negative) == 0);
+  CHECK(strcmp(RyxObjectStatusMessage(INT_MIN), negative) == 0);
+  CHECK(strcmp(RyxObjectStatusMessage(6), beyond) == 0);
+  CHECK(strcmp(RyxObjectStatusMessage(INT_MAX), beyond) == 0);
   CHECK_SILENT();
 }
 
 TestCase const GenericTests[] = {
-    {"ReferenceOfNullIsNullAndSilent", ReferenceOfNullIsNullAndSilent},
-    {"ReferenceSharesTheValueAndCountsEveryOwner", ReferenceSharesTheValueAndCountsEveryOwner},
-    {"AFailedReferenceReturnsNullAndLeavesTheCount", AFailedReferenceReturnsNullAndLeavesTheCount},
-    {"TypeAndTypeNameDescribeTheValue", TypeAndTypeNameDescribeTheValue},
-    {"AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered",
-     AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered},
-    {"AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased",
-     AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased},
-    {"StatusMessagesCoverEveryValue", StatusMessagesCoverEveryValue},
+    TEST_CASE(EveryGenericFunctionAcceptsNullSilently),
+    TEST_CASE(ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails),
+    TEST_CASE(AnUnregisteredTypeHasNoNameAndIsReportedAsNotRegistered),
+    TEST_CASE(AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased),
+    TEST_CASE(StatusMessagesCoverEveryValue),
 };
 size_t const GenericTestCount = sizeof GenericTests / sizeof GenericTests[0];

@@ -49,6 +49,12 @@ void CheckSilentAt(char const* file, int line) {
   ForgetLogs();
 }
 
+int32_t Int32Of(RyxObject const* handle) {
+  int32_t value = -1;
+  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
+  return value;
+}
+
 void ForgetLogs(void) {
   logCount = 0;
   lastLog[0] = '\0';

@@ -33,18 +33,21 @@ void ForgetLogs(void);
 #define CHECK_LOGGED(expected) CheckLoggedAt(__FILE__, __LINE__, (expected))
 #define CHECK_SILENT() CheckSilentAt(__FILE__, __LINE__)
 
-/* Test tables of the test files. */
-extern TestCase const GenericTests[];
-extern size_t const GenericTestCount;
-extern TestCase const PrimitiveTests[];
-extern size_t const PrimitiveTestCount;
-extern TestCase const StringTests[];
-extern size_t const StringTestCount;
-extern TestCase const ArrayTests[];
-extern size_t const ArrayTestCount;
-extern TestCase const DictionaryTests[];
-extern size_t const DictionaryTestCount;
-extern TestCase const EnumTests[];
-extern size_t const EnumTestCount;
+/* The value of an Int32 handle, checking that it could be read. */
+int32_t Int32Of(RyxObject const* handle);
+
+/* An entry of a test table, named after its function. */
+#define TEST_CASE(function) {#function, function}
+
+/* The test tables of the test files. */
+#define DECLARE_TESTS(Group)            \
+  extern TestCase const Group##Tests[]; \
+  extern size_t const Group##TestCount
+DECLARE_TESTS(Generic);
+DECLARE_TESTS(Primitive);
+DECLARE_TESTS(String);
+DECLARE_TESTS(Array);
+DECLARE_TESTS(Dictionary);
+DECLARE_TESTS(Enum);
 
 #endif

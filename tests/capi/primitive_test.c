@@ -28,6 +28,18 @@ typedef struct Family {
   RyxObjectStatus (*convert)(RyxObject* object, int* sample);
 } Family;
 
+/* The Get and Convert adapters: read into a CType, then name the sample. */
+#define READER(Kind, CType, Operation, Handle)                                \
+  static RyxObjectStatus Kind##Operation(Handle object, int* sample) {        \
+    CType read;                                                               \
+    RyxObjectStatus status;                                                   \
+    if (sample == NULL) return RyxObject##Kind##Operation(object, NULL);      \
+    memset(&read, 0x5A, sizeof read);                                         \
+    status = RyxObject##Kind##Operation(object, &read);                       \
+    *sample = Kind##Which(&read);                                             \
+    return status;                                                            \
+  }
+
 /* Reads are compared byte for byte, so a NaN sample must come back unchanged. */
 #define FAMILY(Kind, CType, First, Second)                                           \
   static CType Kind##Sample(int sample) { return sample == 0 ? (First) : (Second); } \
@@ -47,24 +59,8 @@ typedef struct Family {
   static RyxObjectStatus Kind##Set(RyxObject* object, int sample) {                  \
     return RyxObject##Kind##Set(object, Kind##Sample(sample));                       \
   }                                                                                  \
-  static RyxObjectStatus Kind##Get(RyxObject const* object, int* sample) {           \
-    CType read;                                                                      \
-    RyxObjectStatus status;                                                          \
-    if (sample == NULL) return RyxObject##Kind##Get(object, NULL);                   \
-    memset(&read, 0x5A, sizeof read);                                                \
-    status = RyxObject##Kind##Get(object, &read);                                    \
-    *sample = Kind##Which(&read);                                                    \
-    return status;                                                                   \
-  }                                                                                  \
-  static RyxObjectStatus Kind##Convert(RyxObject* object, int* sample) {             \
-    CType read;                                                                      \
-    RyxObjectStatus status;                                                          \
-    if (sample == NULL) return RyxObject##Kind##Convert(object, NULL);               \
-    memset(&read, 0x5A, sizeof read);                                                \
-    status = RyxObject##Kind##Convert(object, &read);                                \
-    *sample = Kind##Which(&read);                                                    \
-    return status;                                                                   \
-  }
+  READER(Kind, CType, Get, RyxObject const*)                                         \
+  READER(Kind, CType, Convert, RyxObject*)
 
 FAMILY(Bool, bool, true, false)
 FAMILY(Int8, int8_t, INT8_MIN, INT8_MAX)
@@ -108,82 +104,48 @@ static char const* Message(char const* format, char const* a, char const* b, cha
   return text;
 }
 
-static void CreateGetAndTypeAgreeForEveryKind(void) {
-  size_t i;
+static void EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle(void) {
+  size_t i, j;
   for (i = 0; i < FAMILY_COUNT; ++i) {
     Family const* const f = &Families[i];
-    int sample = Other;
     RyxObject* const object = f->create(0);
-    CHECK(object != NULL);
-    CHECK(f->instanceOf(object));
+    RyxObject* const other = OtherThan(i)->create(0);
+    RyxObject* second;
+    int sample = Other;
+    CHECK(object != NULL && f->instanceOf(object));
+    CHECK(!f->instanceOf(NULL) && !f->instanceOf(other));
     CHECK(RyxObjectType(object) == f->type());
+    for (j = i + 1; j < FAMILY_COUNT; ++j) {
+      CHECK(Families[j].type() != f->type());
+    }
     CHECK(strcmp(RyxObjectTypeName(object), f->typeName) == 0);
     CHECK(RyxObjectReferenceCount(object) == 1);
     CHECK_STATUS(RyxObjectStatusSuccess, f->get(object, &sample));
     CHECK(sample == 0);
-    RyxObjectRelease(object);
-    CHECK_SILENT();
-  }
-}
-
-static void EveryKindHasItsOwnTypeId(void) {
-  size_t i, j;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    for (j = i + 1; j < FAMILY_COUNT; ++j) {
-      CHECK(Families[i].type() != Families[j].type());
-    }
-  }
-}
-
-static void InstanceOfIsFalseForNullAndOtherKindsWithoutLogging(void) {
-  size_t i;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    RyxObject* const other = OtherThan(i)->create(0);
-    CHECK(!Families[i].instanceOf(NULL));
-    CHECK(!Families[i].instanceOf(other));
-    RyxObjectRelease(other);
-    CHECK_SILENT();
-  }
-}
-
-static void SetIsSeenThroughEveryHandleOfTheValue(void) {
-  size_t i;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    Family const* const f = &Families[i];
-    RyxObject* const object = f->create(0);
-    RyxObject* const second = RyxObjectReference(object);
-    int sample = Other;
+    second = RyxObjectReference(object);
     CHECK_STATUS(RyxObjectStatusSuccess, f->set(object, 1));
     CHECK_STATUS(RyxObjectStatusSuccess, f->get(second, &sample));
     CHECK(sample == 1);
     RyxObjectRelease(second);
     RyxObjectRelease(object);
+    RyxObjectRelease(other);
     CHECK_SILENT();
   }
 }
 
-static void NullObjectIsRefusedByName(void) {
-  size_t i;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    Family const* const f = &Families[i];
-    int sample = Other;
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->set(NULL, 0));
-    CHECK_LOGGED(Message("RyxObject%sSet: the object parameter was NULL", f->kind, 0, 0));
-    /* The object is tested before the output pointer. */
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(NULL, NULL));
-    CHECK_LOGGED(Message("RyxObject%sGet: the object parameter was NULL", f->kind, 0, 0));
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(NULL, &sample));
-    CHECK_LOGGED(Message("RyxObject%sConvert: the object parameter was NULL", f->kind, 0, 0));
-    CHECK(sample == Untouched);
-  }
-}
-
-static void GetWithoutOutputPointerFailsAndKeepsTheHandle(void) {
+static void NullParametersAreRefusedByNameTheObjectFirst(void) {
   size_t i;
   for (i = 0; i < FAMILY_COUNT; ++i) {
     Family const* const f = &Families[i];
     RyxObject* const object = f->create(1);
     int sample = Other;
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->set(NULL, 0));
+    CHECK_LOGGED(Message("RyxObject%sSet: the object parameter was NULL", f->kind, 0, 0));
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(NULL, NULL));
+    CHECK_LOGGED(Message("RyxObject%sGet: the object parameter was NULL", f->kind, 0, 0));
+    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(NULL, &sample));
+    CHECK_LOGGED(Message("RyxObject%sConvert: the object parameter was NULL", f->kind, 0, 0));
+    CHECK(sample == Untouched);
     CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(object, NULL));
     CHECK_LOGGED(Message("RyxObject%sGet: the value parameter was NULL", f->kind, 0, 0));
     CHECK(RyxObjectReferenceCount(object) == 1);
@@ -213,6 +175,8 @@ static void AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue(void) {
   }
 }
 
+/* Convert releases the handle it is given on success and on every failure
+ * but a null object, and still delivers the value of a last handle. */
 static void ConvertConsumesTheHandleOnEveryPath(void) {
   size_t i;
   for (i = 0; i < FAMILY_COUNT; ++i) {
@@ -220,16 +184,16 @@ static void ConvertConsumesTheHandleOnEveryPath(void) {
     Family const* const other = OtherThan(i);
     RyxObject* keep = f->create(1);
     int sample = Other;
-
     CHECK_STATUS(RyxObjectStatusSuccess, f->convert(RyxObjectReference(keep), &sample));
     CHECK(sample == 1);
     CHECK(RyxObjectReferenceCount(keep) == 1);
-
     /* A null output pointer is tested after the handle is consumed. */
     CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(RyxObjectReference(keep), NULL));
     CHECK_LOGGED(Message("RyxObject%sConvert: the value parameter was NULL", f->kind, 0, 0));
     CHECK(RyxObjectReferenceCount(keep) == 1);
-    RyxObjectRelease(keep);
+    sample = Other;
+    CHECK_STATUS(RyxObjectStatusSuccess, f->convert(keep, &sample));
+    CHECK(sample == 1);
 
     keep = other->create(0);
     sample = Other;
@@ -239,16 +203,6 @@ static void ConvertConsumesTheHandleOnEveryPath(void) {
     CHECK(sample == Untouched);
     CHECK(RyxObjectReferenceCount(keep) == 1);
     RyxObjectRelease(keep);
-  }
-}
-
-static void ConvertOfTheLastHandleStillDeliversTheValue(void) {
-  size_t i;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    int sample = Other;
-    CHECK_STATUS(RyxObjectStatusSuccess, Families[i].convert(Families[i].create(1), &sample));
-    CHECK(sample == 1);
-    CHECK_SILENT();
   }
 }
 
@@ -267,19 +221,10 @@ static void CreateReportsAFailedAllocationOfTheValueOrOfTheHandle(void) {
 }
 
 TestCase const PrimitiveTests[] = {
-    {"CreateGetAndTypeAgreeForEveryKind", CreateGetAndTypeAgreeForEveryKind},
-    {"EveryKindHasItsOwnTypeId", EveryKindHasItsOwnTypeId},
-    {"InstanceOfIsFalseForNullAndOtherKindsWithoutLogging",
-     InstanceOfIsFalseForNullAndOtherKindsWithoutLogging},
-    {"SetIsSeenThroughEveryHandleOfTheValue", SetIsSeenThroughEveryHandleOfTheValue},
-    {"NullObjectIsRefusedByName", NullObjectIsRefusedByName},
-    {"GetWithoutOutputPointerFailsAndKeepsTheHandle",
-     GetWithoutOutputPointerFailsAndKeepsTheHandle},
-    {"AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue",
-     AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue},
-    {"ConvertConsumesTheHandleOnEveryPath", ConvertConsumesTheHandleOnEveryPath},
-    {"ConvertOfTheLastHandleStillDeliversTheValue", ConvertOfTheLastHandleStillDeliversTheValue},
-    {"CreateReportsAFailedAllocationOfTheValueOrOfTheHandle",
-     CreateReportsAFailedAllocationOfTheValueOrOfTheHandle},
+    TEST_CASE(EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle),
+    TEST_CASE(NullParametersAreRefusedByNameTheObjectFirst),
+    TEST_CASE(AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue),
+    TEST_CASE(ConvertConsumesTheHandleOnEveryPath),
+    TEST_CASE(CreateReportsAFailedAllocationOfTheValueOrOfTheHandle),
 };
 size_t const PrimitiveTestCount = sizeof PrimitiveTests / sizeof PrimitiveTests[0];

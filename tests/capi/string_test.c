@@ -10,54 +10,37 @@ static char const* Read(RyxObject* string) {
   return text != NULL ? text : "(none)";
 }
 
-static void CreateCopiesTheTextAndGetLendsTheValuesOwnCharacters(void) {
+static void CreateAndSetCopyTheTextWhichGetLendsToEveryHandle(void) {
   char source[] = "hello";
   RyxObject* const string = RyxObjectStringCreate(source);
+  RyxObject* const second = RyxObjectReference(string);
+  RyxObject* const empty = RyxObjectStringCreate("");
+  RyxObject* const number = RyxObjectInt32Create(1);
   char const* first;
   source[0] = 'j';
   CHECK(RyxObjectStringInstanceOf(string));
+  CHECK(!RyxObjectStringInstanceOf(NULL) && !RyxObjectStringInstanceOf(number));
   CHECK(RyxObjectType(string) == RyxObjectStringType());
   CHECK(strcmp(RyxObjectTypeName(string), "ryx.object.String") == 0);
   first = Read(string);
   CHECK(strcmp(first, "hello") == 0);
-  CHECK(Read(string) == first);
-  RyxObjectRelease(string);
-  CHECK_SILENT();
-}
-
-static void AnEmptyStringReadsAsASingleTerminator(void) {
-  RyxObject* const string = RyxObjectStringCreate("");
-  CHECK(Read(string)[0] == '\0');
-  RyxObjectRelease(string);
-}
-
-static void CreateFromNullFailsWithTheConstructorsText(void) {
-  CHECK(RyxObjectStringCreate(NULL) == NULL);
-  CHECK_LOGGED(
-      "RyxObjectStringCreate: failed to create the RYX string: "
-      "basic_string: construction from null is not valid");
-}
-
-static void InstanceOfIsFalseForNullAndNumbers(void) {
-  RyxObject* const number = RyxObjectInt32Create(1);
-  CHECK(!RyxObjectStringInstanceOf(NULL));
-  CHECK(!RyxObjectStringInstanceOf(number));
-  RyxObjectRelease(number);
-  CHECK_SILENT();
-}
-
-static void SetReplacesTheTextForEveryHandle(void) {
-  RyxObject* const string = RyxObjectStringCreate("old");
-  RyxObject* const second = RyxObjectReference(string);
+  CHECK(Read(second) == first);
+  CHECK(Read(empty)[0] == '\0');
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectStringSet(string, "new text"));
   CHECK(strcmp(Read(second), "new text") == 0);
   RyxObjectRelease(second);
   RyxObjectRelease(string);
+  RyxObjectRelease(empty);
+  RyxObjectRelease(number);
   CHECK_SILENT();
 }
 
-static void SetAndGetRefuseNullParametersInOrder(void) {
+static void NullParametersAreRefusedInOrderAndKeepTheText(void) {
   RyxObject* const string = RyxObjectStringCreate("kept");
+  CHECK(RyxObjectStringCreate(NULL) == NULL);
+  CHECK_LOGGED(
+      "RyxObjectStringCreate: failed to create the RYX string: "
+      "basic_string: construction from null is not valid");
   CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectStringSet(NULL, NULL));
   CHECK_LOGGED("RyxObjectStringSet: the object parameter was NULL");
   CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectStringSet(string, NULL));
@@ -73,7 +56,6 @@ static void SetAndGetRefuseNullParametersInOrder(void) {
 static void OtherKindsAreRefusedNamingBothTypes(void) {
   RyxObject* const number = RyxObjectInt32Create(3);
   char const* text = NULL;
-  int32_t value = 0;
   CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectStringGet(number, &text));
   CHECK_LOGGED(
       "RyxObjectStringGet: the object parameter was not a ryx.object.String: ryx.object.Int32");
@@ -81,40 +63,27 @@ static void OtherKindsAreRefusedNamingBothTypes(void) {
   CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectStringSet(number, "3"));
   CHECK_LOGGED(
       "RyxObjectStringSet: the object parameter was not a ryx.object.String: ryx.object.Int32");
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(number, &value));
-  CHECK(value == 3);
+  CHECK(Int32Of(number) == 3);
   RyxObjectRelease(number);
 }
 
-static void ConvertBufferCopiesWithoutTerminatorAndCutsSilently(void) {
+/* A buffer gets the characters without a terminator, cut at its size; an
+ * allocated copy is terminated and belongs to the caller. */
+static void ConvertsCopyTheTextIntoABufferOrAMallocedString(void) {
+  static struct {
+    size_t size;
+    char const* expected;
+  } const buffers[] = {{3, "hel#"}, {10, "hello#"}, {0, "#"}};
   RyxObject* const string = RyxObjectStringCreate("hello");
   char buffer[10];
-
-  memset(buffer, '#', sizeof buffer);
-  CHECK_STATUS(RyxObjectStatusSuccess,
-               RyxObjectStringConvertBuffer(RyxObjectReference(string), buffer, 3));
-  CHECK(memcmp(buffer, "hel#", 4) == 0);
-
-  memset(buffer, '#', sizeof buffer);
-  CHECK_STATUS(RyxObjectStatusSuccess,
-               RyxObjectStringConvertBuffer(RyxObjectReference(string), buffer, sizeof buffer));
-  CHECK(memcmp(buffer, "hello#", 6) == 0);
-
-  memset(buffer, '#', sizeof buffer);
-  CHECK_STATUS(RyxObjectStatusSuccess,
-               RyxObjectStringConvertBuffer(RyxObjectReference(string), buffer, 0));
-  CHECK(buffer[0] == '#');
-
-  CHECK(RyxObjectReferenceCount(string) == 1);
-  CHECK(strcmp(Read(string), "hello") == 0);
-  RyxObjectRelease(string);
-  CHECK_SILENT();
-}
-
-static void ConvertAllocateGivesAMallocedCopyWithTerminator(void) {
-  RyxObject* const string = RyxObjectStringCreate("hello");
-  RyxObject* const empty = RyxObjectStringCreate("");
   char* copy = NULL;
+  size_t i;
+  for (i = 0; i < sizeof buffers / sizeof buffers[0]; ++i) {
+    memset(buffer, '#', sizeof buffer);
+    CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectStringConvertBuffer(RyxObjectReference(string),
+                                                                      buffer, buffers[i].size));
+    CHECK(memcmp(buffer, buffers[i].expected, strlen(buffers[i].expected)) == 0);
+  }
   CHECK_STATUS(RyxObjectStatusSuccess,
                RyxObjectStringConvertAllocate(RyxObjectReference(string), &copy));
   CHECK(copy != NULL && memcmp(copy, "hello", 6) == 0);
@@ -122,9 +91,9 @@ static void ConvertAllocateGivesAMallocedCopyWithTerminator(void) {
   CHECK(RyxObjectReferenceCount(string) == 1);
   CHECK(strcmp(Read(string), "hello") == 0);
   RyxObjectRelease(string);
-
   copy = NULL;
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectStringConvertAllocate(empty, &copy));
+  CHECK_STATUS(RyxObjectStatusSuccess,
+               RyxObjectStringConvertAllocate(RyxObjectStringCreate(""), &copy));
   CHECK(copy != NULL && copy[0] == '\0');
   free(copy);
   CHECK_SILENT();
@@ -180,19 +149,17 @@ static void EmbeddedNulIsKeptByTheCopiesButEndsTheCString(void) {
   CHECK_SILENT();
 }
 
-/* Longer than any in-place string buffer, so that copying it allocates. */
-static char const LongText[] = "a text long enough to need memory of its own";
-
-static void CreateReportsAFailedAllocation(void) {
-  FailNthAllocation(1);
-  CHECK(RyxObjectStringCreate(LongText) == NULL);
-  CHECK_LOGGED("RyxObjectStringCreate: failed to create the RYX string: std::bad_alloc");
-}
-
-static void SetAnswersAFailedAllocationSilentlyAndKeepsTheText(void) {
+/* Create reports a failed allocation; Set answers it with its status alone
+ * and keeps the text. The text is longer than any in-place string buffer,
+ * so that copying it allocates. */
+static void AFailedAllocationIsReportedAndKeepsTheText(void) {
+  static char const longText[] = "a text long enough to need memory of its own";
   RyxObject* const string = RyxObjectStringCreate("kept");
   FailNthAllocation(1);
-  CHECK_STATUS(RyxObjectStatusAllocationFailure, RyxObjectStringSet(string, LongText));
+  CHECK(RyxObjectStringCreate(longText) == NULL);
+  CHECK_LOGGED("RyxObjectStringCreate: failed to create the RYX string: std::bad_alloc");
+  FailNthAllocation(1);
+  CHECK_STATUS(RyxObjectStatusAllocationFailure, RyxObjectStringSet(string, longText));
   FailNthAllocation(0);
   CHECK_SILENT();
   CHECK(strcmp(Read(string), "kept") == 0);
@@ -200,24 +167,12 @@ static void SetAnswersAFailedAllocationSilentlyAndKeepsTheText(void) {
 }
 
 TestCase const StringTests[] = {
-    {"CreateCopiesTheTextAndGetLendsTheValuesOwnCharacters",
-     CreateCopiesTheTextAndGetLendsTheValuesOwnCharacters},
-    {"AnEmptyStringReadsAsASingleTerminator", AnEmptyStringReadsAsASingleTerminator},
-    {"CreateFromNullFailsWithTheConstructorsText", CreateFromNullFailsWithTheConstructorsText},
-    {"InstanceOfIsFalseForNullAndNumbers", InstanceOfIsFalseForNullAndNumbers},
-    {"SetReplacesTheTextForEveryHandle", SetReplacesTheTextForEveryHandle},
-    {"SetAndGetRefuseNullParametersInOrder", SetAndGetRefuseNullParametersInOrder},
-    {"OtherKindsAreRefusedNamingBothTypes", OtherKindsAreRefusedNamingBothTypes},
-    {"ConvertBufferCopiesWithoutTerminatorAndCutsSilently",
-     ConvertBufferCopiesWithoutTerminatorAndCutsSilently},
-    {"ConvertAllocateGivesAMallocedCopyWithTerminator",
-     ConvertAllocateGivesAMallocedCopyWithTerminator},
-    {"ConvertsConsumeTheHandleOnEveryFailureButANullObject",
-     ConvertsConsumeTheHandleOnEveryFailureButANullObject},
-    {"EmbeddedNulIsKeptByTheCopiesButEndsTheCString",
-     EmbeddedNulIsKeptByTheCopiesButEndsTheCString},
-    {"CreateReportsAFailedAllocation", CreateReportsAFailedAllocation},
-    {"SetAnswersAFailedAllocationSilentlyAndKeepsTheText",
-     SetAnswersAFailedAllocationSilentlyAndKeepsTheText},
+    TEST_CASE(CreateAndSetCopyTheTextWhichGetLendsToEveryHandle),
+    TEST_CASE(NullParametersAreRefusedInOrderAndKeepTheText),
+    TEST_CASE(OtherKindsAreRefusedNamingBothTypes),
+    TEST_CASE(ConvertsCopyTheTextIntoABufferOrAMallocedString),
+    TEST_CASE(ConvertsConsumeTheHandleOnEveryFailureButANullObject),
+    TEST_CASE(EmbeddedNulIsKeptByTheCopiesButEndsTheCString),
+    TEST_CASE(AFailedAllocationIsReportedAndKeepsTheText),
 };
 size_t const StringTestCount = sizeof StringTests / sizeof StringTests[0];

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -15,63 +14,34 @@ using ryx::logging::Level;
 using ryx::logging::Logger;
 using ryx::logging::Name;
 
-std::string Format(char const* format, std::vector<std::string> const& arguments) {
-  std::vector<Logger::Argument> functions;
-  for (auto const& argument : arguments) {
-    functions.emplace_back([&argument](std::string* out) { out->append(argument); });
-  }
-  Logger const logger(Name("test"));
-  std::string out;
-  logger.Format(&out, logger.GetName(), Level::Error, format, functions.data(), functions.size());
-  return out;
-}
-
-TEST(LoggerFormat, ReplacesNumberedPlaceholdersInAnyOrderAndRepeatedly) {
-  EXPECT_EQ(Format("%1%-%0%-%1%", {"a", "b"}), "b-a-b");
-  EXPECT_EQ(Format("%0%: the %1% parameter was NULL", {"F", "value"}),
-            "F: the value parameter was NULL");
+TEST(LoggerFormat, ReplacesNumberedPlaceholdersAndCopiesEverythingElseAsItIs) {
+  struct Case {
+    char const* format;
+    std::vector<std::string> arguments;
+    char const* expected;
+  };
   std::vector<std::string> eleven(11, "x");
   eleven[10] = "ten";
-  EXPECT_EQ(Format("<%10%>", eleven), "<ten>");
-}
-
-TEST(LoggerFormat, CopiesPlaceholdersWithoutArgumentAndStrayPercentSignsAsTheyAre) {
-  EXPECT_EQ(Format("%2% %0", {"a"}), "%2% %0");
-  EXPECT_EQ(Format("100% %x%%0%", {"a"}), "100% %x%a");
-  EXPECT_EQ(Format("%99999999999999999999999%", {"a"}), "%99999999999999999999999%");
-  EXPECT_EQ(Format("", {}), "");
-}
-
-struct Captured {
-  int calls = 0;
-  std::string logger;
-  int level = -1;
-  std::string message;
-};
-
-void Capture(char const* logger, int level, char const* message, void* context) {
-  auto* const captured = static_cast<Captured*>(context);
-  ++captured->calls;
-  captured->logger = logger;
-  captured->level = level;
-  captured->message = message;
-}
-
-class LoggerLog : public ::testing::Test {
- protected:
-  void SetUp() override { RyxLoggingSetSink(Capture, &captured); }
-  void TearDown() override { RyxLoggingSetSink(nullptr, nullptr); }
-  Captured captured;
-};
-
-TEST_F(LoggerLog, HandsTheNameTheLevelAndTheFormattedMessageToTheSinkOnce) {
-  Logger const logger(Name("ryx.object"));
-  char const* const function = "RyxObjectInt32Get";
-  logger.Log(static_cast<Level>(16), "%0%: the %1% parameter was NULL", function, "value");
-  EXPECT_EQ(captured.calls, 1);
-  EXPECT_EQ(captured.logger, "ryx.object");
-  EXPECT_EQ(captured.level, 16);
-  EXPECT_EQ(captured.message, "RyxObjectInt32Get: the value parameter was NULL");
+  Case const cases[] = {
+      {"%1%-%0%-%1%", {"a", "b"}, "b-a-b"},
+      {"<%10%>", eleven, "<ten>"},
+      // Placeholders without an argument and stray percent signs stay.
+      {"%2% %0", {"a"}, "%2% %0"},
+      {"100% %x%%0%", {"a"}, "100% %x%a"},
+      {"%99999999999999999999999%", {"a"}, "%99999999999999999999999%"},
+      {"", {}, ""},
+  };
+  Logger const logger(Name("test"));
+  for (Case const& c : cases) {
+    std::vector<Logger::Argument> functions;
+    for (auto const& argument : c.arguments) {
+      functions.emplace_back([&argument](std::string* out) { out->append(argument); });
+    }
+    std::string out;
+    logger.Format(&out, logger.GetName(), Level::Error, c.format, functions.data(),
+                  functions.size());
+    EXPECT_EQ(out, c.expected) << c.format;
+  }
 }
 
 TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbers) {
@@ -85,12 +55,19 @@ TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbe
   EXPECT_EQ(out, std::string("a\0bcs-42", 8));
 }
 
-TEST_F(LoggerLog, DropsLevelsBelowInfo) {
-  Logger const logger(Name("n"));
+TEST(LoggerLog, HandsInfoAndAboveToTheSinkOnceAndDropsTheRest) {
+  std::vector<std::string> heard;
+  RyxLoggingSetSink(
+      [](char const* logger, int level, char const* message, void* context) {
+        static_cast<std::vector<std::string>*>(context)->push_back(
+            std::string(logger) + ' ' + std::to_string(level) + ' ' + message);
+      },
+      &heard);
+  Logger const logger(Name("ryx.object"));
   logger.Log(Level::Debug, "quiet");
-  EXPECT_EQ(captured.calls, 0);
-  logger.Log(Level::Info, "heard");
-  EXPECT_EQ(captured.calls, 1);
+  logger.Log(Level::Info, "%0%: the %1% parameter was NULL", "F", std::string("value"));
+  RyxLoggingSetSink(nullptr, nullptr);
+  EXPECT_EQ(heard, std::vector<std::string>{"ryx.object 8 F: the value parameter was NULL"});
 }
 
 // A sink that counts its calls and notes any call after it was replaced.

@@ -1,104 +1,57 @@
-#include <ryx/object.hpp>
+// The value base class (type ids, casts, printing, copies, options) and the
+// primitive kinds built on it.
+#include "support.hpp"
 
-#include <gtest/gtest.h>
-
+#include <limits>
 #include <memory>
 #include <sstream>
+#include <stdexcept>
 #include <string>
-#include <typeinfo>
 
 namespace {
 
 using namespace ryx::object;
-using ryx::hash::MurmurThree32;
+using namespace ryx::object::testing;
 
-// A value class that was never registered.
-struct Foreign : Object {
-  Foreign() : Object(MurmurThree32::MakeData("test.Foreign")) {}
-  void Set(Object const&) override {}
-  bool EqualTo(Object const&) const override { return false; }
-};
-
-}  // namespace
-
-namespace ryx::type {
-template <>
-struct Name<Foreign> {
-  static constexpr char const* Value = "test.Foreign";
-};
-}  // namespace ryx::type
-
-namespace {
-
-TEST(Object, TypeIdIsTheHashOfTheTypeName) {
-  EXPECT_EQ(Int32().GetType(), MurmurThree32::MakeData(boost::string_view("ryx.object.Int32")));
-  EXPECT_EQ(Object::TypeIdOf<Int32>(), MurmurThree32::MakeData("ryx.object.Int32"));
+std::string Printed(Object const& value) {
+  std::ostringstream os;
+  os << value;
+  return os.str();
 }
 
-TEST(Object, IsComparesExactTypeIds) {
-  std::shared_ptr<Object> const value = std::make_shared<Int64>(1);
+TEST(Object, IsAndAsMatchTheExactTypeOnly) {
+  std::shared_ptr<Object> const value = std::make_shared<Int64>(8);
   EXPECT_TRUE(value->Is<Int64>());
   EXPECT_FALSE(value->Is<Int32>());
-  EXPECT_FALSE(std::make_shared<UInt32>(1u)->Is<Int32>());
-}
-
-TEST(Object, AsReturnsTheSameObjectOnSuccess) {
-  std::shared_ptr<Object> const value = std::make_shared<Int32>(8);
-  EXPECT_EQ(&value->As<Int32>(), value.get());
+  EXPECT_FALSE(UInt64(1u).Is<Int64>());
+  EXPECT_EQ(&value->As<Int64>(), value.get());
+  EXPECT_EQ(MessageOf<std::bad_cast>([&] { value->As<Bool>(); }),
+            "Failed to cast the runtime object from 'ryx.object.Int64' to a 'ryx.object.Bool'");
   std::shared_ptr<Object const> const constant = value;
-  EXPECT_EQ(constant->As<Int32>().Get(), 8);
+  EXPECT_THROW(constant->As<String>(), BadCast);
 }
 
-TEST(Object, AsThrowsABadCastNamingBothTypes) {
-  Int32 value(1);
-  try {
-    value.As<Bool>();
-    FAIL() << "expected BadCast";
-  } catch (std::bad_cast const& e) {
-    EXPECT_STREQ(e.what(),
-                 "Failed to cast the runtime object from 'ryx.object.Int32' to a 'ryx.object.Bool'");
-  }
-  Int32 const& constant = value;
-  EXPECT_THROW(constant.As<String>(), BadCast);
+TEST(Object, PrintsItsTypeNameOrNotRegisteredAndItsId) {
+  EXPECT_EQ(Printed(Int32(3)), "{\"type\":\"ryx.object.Int32\",\"id\":" +
+                                   std::to_string(Object::TypeIdOf<Int32>().GetValue()) + "}");
+  Unregistered const foreign;
+  EXPECT_EQ(Printed(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
+                                  std::to_string(foreign.GetType().GetValue()) + "}");
+  EXPECT_EQ(MessageOf<BadCast>([&] { foreign.As<Int32>(); }),
+            "Failed to cast the runtime object from '[not-registered]' to a 'ryx.object.Int32'");
 }
 
-TEST(Object, AnUnregisteredTypePrintsAsNotRegistered) {
-  Foreign foreign;
-  try {
-    foreign.As<Int32>();
-    FAIL() << "expected BadCast";
-  } catch (BadCast const& e) {
-    EXPECT_STREQ(e.what(),
-                 "Failed to cast the runtime object from '[not-registered]' to a 'ryx.object.Int32'");
-  }
-  std::ostringstream os;
-  os << foreign;
-  EXPECT_EQ(os.str(), "{\"type\":\"[not-registered]\",\"id\":" +
-                          std::to_string(foreign.GetType().GetValue()) + "}");
-  EXPECT_TRUE(foreign.Is<Foreign>());
-}
-
-TEST(Object, PrintsItsTypeNameAndId) {
-  std::ostringstream os;
-  os << Int32(3);
-  EXPECT_EQ(os.str(), "{\"type\":\"ryx.object.Int32\",\"id\":" +
-                          std::to_string(Object::TypeIdOf<Int32>().GetValue()) + "}");
-}
-
-TEST(Object, CopyOfAnUnregisteredTypeOrOfNothingIsEmpty) {
-  EXPECT_EQ(Object::Copy(Foreign()), nullptr);
+TEST(Object, CopiesIntoANewValueOrNothingForAnUnregisteredTypeOrNull) {
+  UInt64 const source(std::numeric_limits<unsigned long>::max());
+  auto const copy = Object::Copy(source);
+  ASSERT_TRUE(copy && copy->Is<UInt64>());
+  EXPECT_NE(copy.get(), static_cast<Object const*>(&source));
+  EXPECT_TRUE(copy->EqualTo(source));
+  EXPECT_EQ(Object::Copy(Unregistered()), nullptr);
   EXPECT_EQ(Object::Copy(std::shared_ptr<Object const>()), nullptr);
-  auto const copy = Object::Copy(std::shared_ptr<Object const>(std::make_shared<String>("s")));
-  ASSERT_TRUE(copy);
-  EXPECT_EQ(copy->As<String>().Get(), "s");
-}
-
-TEST(Object, ACopyConstructedValueStartsWithoutASelfReference) {
-  auto const original = std::make_shared<Int32>(2);
-  EXPECT_EQ(original->shared_from_this(), original);
-  Int32 copy(*original);
-  EXPECT_TRUE(copy.weak_from_this().expired());
-  EXPECT_EQ(copy.GetType(), original->GetType());
+  auto const shared = Object::Copy(std::shared_ptr<Object const>(std::make_shared<String>("s")));
+  ASSERT_TRUE(shared);
+  EXPECT_EQ(shared->As<String>().Get(), "s");
 }
 
 TEST(Object, ANonContainerWalksAsEmptyAndReportsTheEmptySchema) {
@@ -108,34 +61,76 @@ TEST(Object, ANonContainerWalksAsEmptyAndReportsTheEmptySchema) {
   EXPECT_TRUE(cbegin(constant) == cend(constant));
   EXPECT_FALSE(static_cast<bool>(begin(value)));
   EXPECT_EQ(value.GetRequired(), Required());
-  int visited = 0;
-  for (Object& child : value) {
-    (void)child;
-    ++visited;
-  }
-  EXPECT_EQ(visited, 0);
 }
 
-TEST(Options, StartClearAndHoldTheDeserializingFlag) {
+TEST(Options, StartClearAndTravelWithAMovedValue) {
   Int32 value;
-  EXPECT_FALSE(value.GetOptions().Test(Option::deserializing));
-  value.GetOptions().Set(Option::deserializing);
-  EXPECT_TRUE(value.GetOptions().Test(Option::deserializing));
-  EXPECT_TRUE(value.GetOptions().GetBits().test(0));
-  Int32 const moved(std::move(value));
-  EXPECT_TRUE(moved.GetOptions().Test(Option::deserializing));
-  value.GetOptions().Clear(Option::deserializing);
   EXPECT_TRUE(value.GetOptions().None());
+  value.GetOptions().Set(Option::deserializing);
+  Int32 const moved(std::move(value));
+  EXPECT_TRUE(moved.GetOptions().GetBits().test(0));
+  EXPECT_EQ(ryx::type::Strings<Option>::GetMap().at(0), "deserializing");
 }
 
-TEST(Options, HaveOneNamedOptionInOneProcessWideTable) {
-  auto const& map = ryx::type::Strings<Option>::GetMap();
-  EXPECT_EQ(&map, &ryx::type::Strings<Option>::GetMap());
-  ASSERT_EQ(map.size(), 1u);
-  EXPECT_EQ(map.at(0), "deserializing");
-  EXPECT_STREQ(ryx::type::Name<Option>::Value, "ryx.object.Option");
-  EXPECT_STREQ(ryx::type::Name<Options>::Value, "ryx.object.Options");
-  EXPECT_EQ(Object::TypeName(MurmurThree32::MakeData("ryx.object.Option")), nullptr);
+TEST(Primitive, SetTakesItsOwnKindAndRefusesAnyOtherKeepingItsValue) {
+  Int32 target(1);
+  target.Set(Int32(3));
+  EXPECT_EQ(MessageOf<BadCast>([&] { target.Set(Int16(5)); }),
+            "Failed to cast the runtime object from 'ryx.object.Int16' to a 'ryx.object.Int32'");
+  EXPECT_THROW(target.Set(Int64(5)), BadCast);
+  EXPECT_THROW(target.Set(UInt32(5)), BadCast);
+  EXPECT_EQ(target.Get(), 3);
+  String text("old");
+  text.Set(String("keep"));
+  EXPECT_THROW(text.Set(Int32(5)), BadCast);
+  EXPECT_EQ(text.Get(), "keep");
+}
+
+TEST(Primitive, ParsesAStringValueAndKeepsItsValueWhenParsingFails) {
+  Int32 target(3);
+  target.Set(String("5x"));
+  EXPECT_EQ(target.Get(), 5);
+  EXPECT_THROW(target.Set(String("x5")), std::invalid_argument);
+  EXPECT_EQ(target.Get(), 5);
+  UInt8 small(7);
+  EXPECT_THROW(small.Set(String("256")), std::out_of_range);
+  EXPECT_EQ(small.Get(), 7);
+  Double number;
+  number.Set(String("2.5"));
+  EXPECT_EQ(number.Get(), 2.5);
+}
+
+// A derived class sees every change through the virtual Set(T).
+struct CountingInt32 : Int32 {
+  using Int32::Set;
+  void Set(int value) override {
+    ++sets;
+    Int32::Set(value);
+  }
+  int sets = 0;
+};
+
+TEST(Primitive, RoutesEveryChangeThroughTheVirtualSetter) {
+  CountingInt32 counting;
+  counting.Set(Int32(4));
+  counting.Set(String("6"));
+  EXPECT_EQ(counting.sets, 2);
+  EXPECT_EQ(counting.Get(), 6);
+}
+
+TEST(Primitive, EqualsOnlyTheSameKindWithExactlyTheSameValue) {
+  EXPECT_TRUE(Int32(4).EqualTo(Int32(4)));
+  EXPECT_FALSE(Int32(4).EqualTo(Int32(5)));
+  EXPECT_FALSE(Int32(4).EqualTo(Int64(4)));
+  EXPECT_FALSE(Int32(4).EqualTo(String("4")));
+  EXPECT_FALSE(Float(1.0f).EqualTo(Double(1.0)));
+  EXPECT_FALSE(String("abc").EqualTo(String("ABC")));
+  EXPECT_TRUE(String(std::string("a\0b", 3)).EqualTo(String(std::string("a\0b", 3))));
+  EXPECT_FALSE(String(std::string("a\0b", 3)).EqualTo(String("a")));
+  Double const nan(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_FALSE(nan.EqualTo(nan));
+  EXPECT_TRUE(Double(0.0).EqualTo(Double(-0.0)));
+  EXPECT_FALSE(Double(0.1 + 0.2).EqualTo(Double(0.3)));
 }
 
 }  // namespace

@@ -1,15 +1,46 @@
-// test::Box: a registered test kind that holds one child value, so that
-// nesting can be tested through Save and Load with any depth of values.
+// Helpers shared by the serialization tests: the bytes of the binary form,
+// the failed check of a JSON document, and test::Box, a registered test kind
+// that holds one child value, so that nesting can be tested through Save and
+// Load with any depth of values.
 #pragma once
 
 #include <ryx/object.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
 namespace test {
 
 using ryx::object::Object;
+
+// The little-endian bytes of an integer, as the binary form writes them.
+template <class T>
+std::string Bytes(T value) {
+  std::string bytes;
+  for (std::size_t i = 0; i != sizeof(T); ++i) {
+    bytes += static_cast<char>((static_cast<std::uint64_t>(value) >> (8 * i)) & 0xFF);
+  }
+  return bytes;
+}
+
+// The type id of `typeName` as the binary form writes it.
+inline std::string Id(char const* typeName) {
+  return Bytes(ryx::hash::MurmurThree32::MakeData(typeName).GetValue());
+}
+
+// The endianness byte of a little-endian stream.
+inline std::string const Little = "\x01";
+
+// The failed check a JSON document is refused with, or "no error".
+inline std::string CheckOf(std::string const& document) {
+  try {
+    ryx::object::FromJson(document);
+  } catch (cereal::archive::JsonParseError const& error) {
+    return error.GetCheck();
+  }
+  return "no error";
+}
 
 inline constexpr char const* BoxName = "test.serialize.Box";
 

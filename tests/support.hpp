@@ -1,5 +1,6 @@
-// Helpers shared by the container tests: value makers, exception texts, and a
-// snapshot that proves a failed operation changed nothing.
+// Helpers shared by the C++ tests: value makers, exception texts, a value of
+// an unregistered type, and a snapshot that proves a failed container
+// operation changed nothing.
 #pragma once
 
 #include <ryx/object.hpp>

@@ -1,0 +1,173 @@
+// Every primitive kind in every form: the documents written for it, the
+// null value, and round trips.
+#include "serialize/box.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace ryx::object;
+using test::Bytes;
+using test::Id;
+using test::Little;
+
+std::string XmlDocument(std::string const& children) {
+  return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<cereal>\n" + children + "</cereal>\n\n";
+}
+
+mstch::map const& AsMap(mstch::node const& node) { return boost::get<mstch::map>(node); }
+
+// One value and what each form writes for it after its type: the JSON value
+// member, the XML value element, the binary bytes, and the template-data
+// text (none for a Bool, which is a bool node).
+struct Written {
+  std::shared_ptr<Object const> value;
+  std::string json;
+  std::string xml;
+  std::string binary;
+  char const* text;
+};
+
+std::vector<Written> EveryKind() {
+  long const int64Min = std::numeric_limits<long>::min();
+  unsigned long const uint64Max = std::numeric_limits<unsigned long>::max();
+  return {
+      {std::make_shared<Bool>(true), "true", "<value>true</value>", "\x01", nullptr},
+      {std::make_shared<Int8>(65), "65", "<value>65</value>", "A", "65"},
+      {std::make_shared<Int16>(-300), "-300", "<value>-300</value>", Bytes<std::int16_t>(-300),
+       "-300"},
+      {std::make_shared<Int32>(7), "7", "<value>7</value>", Bytes<std::int32_t>(7), "7"},
+      {std::make_shared<Int64>(int64Min), "-9223372036854775808",
+       "<value>-9223372036854775808</value>", Bytes(int64Min), "-9223372036854775808"},
+      {std::make_shared<UInt8>(200), "200", "<value>200</value>", "\xC8", "200"},
+      {std::make_shared<UInt16>(65535), "65535", "<value>65535</value>", "\xFF\xFF", "65535"},
+      {std::make_shared<UInt32>(4294967295u), "4294967295", "<value>4294967295</value>",
+       Bytes<std::uint32_t>(4294967295u), "4294967295"},
+      {std::make_shared<UInt64>(uint64Max), "18446744073709551615",
+       "<value>18446744073709551615</value>", std::string(8, '\xFF'), "18446744073709551615"},
+      {std::make_shared<Float>(0.5f), "0.5", "<value>0.5</value>",
+       Bytes<std::uint32_t>(0x3F000000u), "0.5"},
+      {std::make_shared<Double>(2.0), "2.0", "<value>2</value>",
+       Bytes<std::uint64_t>(0x4000000000000000ull), "2"},
+      {std::make_shared<String>("a<\"b"), R"("a<\"b")", "<value>a&lt;&quot;b</value>",
+       Bytes<std::uint64_t>(4) + "a<\"b", "a<\"b"},
+      {std::make_shared<String>(" padded"), R"(" padded")",
+       "<value xml:space=\"preserve\"> padded</value>", Bytes<std::uint64_t>(7) + " padded",
+       " padded"},
+      {std::make_shared<String>(""), R"("")", "<value></value>", std::string(8, '\0'), ""},
+  };
+}
+
+TEST(PrimitiveForms, EveryKindIsWrittenAsItsTypeAndValueInEveryForm) {
+  for (Written const& written : EveryKind()) {
+    std::string const name = Object::TypeName(written.value->GetType());
+    SCOPED_TRACE(name + " " + written.json);
+    EXPECT_EQ(ToJson(written.value),
+              "{\n    \"typename\": \"" + name + "\",\n    \"value\": " + written.json + "\n}");
+    EXPECT_EQ(ToXml(written.value),
+              XmlDocument("\t<typename>" + name + "</typename>\n\t" + written.xml + "\n"));
+    EXPECT_EQ(ToBinary(written.value), Little + Id(name.c_str()) + written.binary);
+    mstch::map const data = AsMap(ToTemplateData(written.value));
+    if (written.text != nullptr) {
+      EXPECT_EQ(boost::get<std::string>(data.at("value")), written.text);
+    } else {
+      EXPECT_TRUE(boost::get<bool>(data.at("value")));
+    }
+  }
+}
+
+TEST(PrimitiveForms, ANullValueIsWrittenAsAnEmptyTypeAndLoadsAsNull) {
+  EXPECT_EQ(ToJson(nullptr), "{\n    \"typename\": \"\"\n}");
+  EXPECT_EQ(ToXml(nullptr), XmlDocument("\t<typename></typename>\n"));
+  EXPECT_EQ(ToBinary(nullptr), Little + std::string(4, '\0'));
+  mstch::map const data = AsMap(ToTemplateData(nullptr));
+  ASSERT_EQ(data.size(), 1u);
+  EXPECT_EQ(boost::get<std::string>(data.at("typename")), "");
+  EXPECT_EQ(FromJson(ToJson(nullptr)), nullptr);
+  EXPECT_EQ(FromXml(ToXml(nullptr)), nullptr);
+  EXPECT_EQ(FromBinary(ToBinary(nullptr)), nullptr);
+}
+
+TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
+  std::vector<std::shared_ptr<Object const>> values{
+      std::make_shared<Bool>(false),    std::make_shared<Int8>(-128),
+      std::make_shared<Float>(0.1f),    std::make_shared<Float>(3.4e38f),
+      std::make_shared<Double>(0.1),    std::make_shared<Double>(-1e-300),
+      std::make_shared<Double>(1e-310), std::make_shared<String>("line\nbreak \xc3\xa9 & x")};
+  for (Written const& written : EveryKind()) {
+    values.push_back(written.value);
+  }
+  for (auto const& value : values) {
+    SCOPED_TRACE(ToJson(value));
+    for (auto const& loaded :
+         {FromJson(ToJson(value)), FromXml(ToXml(value)), FromBinary(ToBinary(value))}) {
+      ASSERT_TRUE(loaded);
+      EXPECT_TRUE(loaded->EqualTo(*value));
+      EXPECT_FALSE(loaded->GetOptions().Test(Option::deserializing));
+    }
+  }
+}
+
+// JSON escapes a NUL but its reader ends the string there; only the binary
+// form keeps every byte.
+TEST(PrimitiveForms, AStringWithANulKeepsItsBytesOnlyInTheBinaryForm) {
+  auto const value = std::make_shared<String>(std::string("ab\0c", 4));
+  std::string const json = ToJson(value);
+  EXPECT_NE(json.find("\"ab\\u0000c\""), std::string::npos) << json;
+  EXPECT_EQ(FromJson(json)->As<String>().Get(), "ab");
+  EXPECT_TRUE(FromBinary(ToBinary(value))->EqualTo(*value));
+}
+
+TEST(TemplateData, WritesNumbersAsShortDecimalText) {
+  std::pair<std::shared_ptr<Object const>, char const*> const cases[] = {
+      {std::make_shared<Float>(0.1f), "0.1"},
+      {std::make_shared<Double>(1e20), "1e+20"},
+      {std::make_shared<Double>(100000), "100000"},
+      {std::make_shared<Double>(1000000), "1e+06"},
+      {std::make_shared<Double>(3.14159265), "3.14159"},
+  };
+  for (auto const& [value, text] : cases) {
+    EXPECT_EQ(boost::get<std::string>(AsMap(ToTemplateData(value)).at("value")), text);
+  }
+}
+
+TEST(TemplateData, PlacesTypeFlagsBesideTheTypeNameForSectionsToTest) {
+  EXPECT_EQ(AsMap(ToTemplateData(std::make_shared<Int32>(7))).size(), 3u);
+  EXPECT_EQ(Render("{{#is.typename.ryx.object.Int32}}int {{value}}{{/is.typename.ryx.object.Int32}}"
+                   "{{#is.typename.ryx.object.String}}string{{/is.typename.ryx.object.String}}",
+                   std::make_shared<Int32>(7)),
+            "int 7");
+  EXPECT_EQ(Render("{{#value}}on{{/value}}{{^value}}off{{/value}}", std::make_shared<Bool>(false)),
+            "off");
+}
+
+// An empty inner list must be there: were it missing, the section would
+// find the outer list instead.
+TEST(TemplateData, WritesASchemaAsNestedMapsAndLists) {
+  Required const arraysOfBools(Object::TypeIdOf<Array<Object>>(),
+                               {Required(Object::TypeIdOf<Bool>())});
+  EXPECT_EQ(Render("{{#required}}{{type}}:{{#child_types}}{{type}}[{{#child_types}}x"
+                   "{{/child_types}}]{{/child_types}}{{/required}}",
+                   std::make_shared<Array<Object>>(arraysOfBools, Array<Object>::Objects{})),
+            std::to_string(Object::TypeIdOf<Array<Object>>().GetValue()) + ":" +
+                std::to_string(Object::TypeIdOf<Bool>().GetValue()) + "[]");
+}
+
+TEST(TemplateDataArchive, AppendsToListsAndRefusesToCloseTheRoot) {
+  ryx::templating::serialize::archive::output::Data archive;
+  archive.SetNextName("items");
+  archive.StartNode();
+  archive.MakeArray(2);
+  archive.SaveValue(1);
+  archive.SaveValue(std::string("two"));
+  archive.FinishNode();
+  EXPECT_EQ(mstch::render("{{#items}}<{{.}}>{{/items}}", archive.GetRoot()), "<1><two>");
+  EXPECT_THROW(archive.FinishNode(), std::logic_error);
+}
+
+}  // namespace
