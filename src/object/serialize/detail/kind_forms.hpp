@@ -21,6 +21,7 @@
 #include <ryx/object/serialize/required.hpp>
 #include <ryx/object/serialize/save.hpp>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -31,6 +32,7 @@
 
 #include <cereal/types/string.hpp>
 
+#include "object/detail/prefetch.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/save_value.hpp"
@@ -67,8 +69,9 @@ struct SavedNodes {
   template <class Archive>
   void save(Archive& archive) const {
     archive(cereal::make_size_tag(static_cast<cereal::size_type>(objects.size())));
-    for (std::shared_ptr<Object> const& object : objects) {
-      archive(SavedNode{object});
+    for (std::size_t index = 0; index != objects.size(); ++index) {
+      PrefetchAhead(objects, index);
+      archive(SavedNode{objects[index]});
     }
   }
 };
