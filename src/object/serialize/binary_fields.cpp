@@ -13,23 +13,13 @@ constexpr std::uint64_t StringPiece = 64 * 1024;
 
 }  // namespace
 
-void WriteBool(cereal::PortableBinaryOutputArchive& archive, bool value) {
-  archive(static_cast<std::uint8_t>(value ? 1 : 0));
-}
-
 bool ReadBool(cereal::PortableBinaryInputArchive& archive) {
-  std::uint8_t byte = 0;
-  archive(byte);
+  std::uint8_t const byte = ReadNumber<std::uint8_t>(archive);
   if (byte > 1) {
     throw std::runtime_error("Invalid bool byte in the binary form: " + std::to_string(byte) +
                              " (expected 0 or 1)");
   }
   return byte == 1;
-}
-
-void WriteString(cereal::PortableBinaryOutputArchive& archive, std::string const& value) {
-  archive(static_cast<std::uint64_t>(value.size()));
-  archive(cereal::binary_data(value.data(), value.size()));
 }
 
 std::string ReadString(cereal::PortableBinaryInputArchive& archive) {
@@ -39,16 +29,10 @@ std::string ReadString(cereal::PortableBinaryInputArchive& archive) {
     std::size_t const piece = static_cast<std::size_t>(std::min(remaining, StringPiece));
     std::size_t const start = value.size();
     value.resize(start + piece);
-    archive(cereal::binary_data(&value[start], piece));
+    archive.loadBinary<1>(&value[start], static_cast<std::streamsize>(piece));
     remaining -= piece;
   }
   return value;
-}
-
-std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive) {
-  std::uint64_t count = 0;
-  archive(count);
-  return count;
 }
 
 }  // namespace ryx::object::detail

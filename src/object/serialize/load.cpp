@@ -14,6 +14,7 @@
 #include "object/detail/registry_cache.hpp"
 #include "object/detail/type_name.hpp"
 #include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/binary_fields.hpp"
 #include "object/detail/nesting_guard.hpp"
 
 namespace ryx::object {
@@ -38,9 +39,7 @@ hash::MurmurThree32 ReadTypeId(cereal::XMLInputArchive& archive) {
 }
 
 hash::MurmurThree32 ReadTypeId(cereal::PortableBinaryInputArchive& archive) {
-  std::uint32_t id = 0;
-  archive(id);
-  return hash::MurmurThree32(id);
+  return hash::MurmurThree32(detail::ReadNumber<std::uint32_t>(archive));
 }
 
 // A text document closes the value's node around what was not read; a binary

@@ -16,8 +16,16 @@ namespace ryx::object {
 template <class Archive>
 void CEREAL_SAVE_FUNCTION_NAME(Archive& archive, Required const& required) {
   detail::NestingGuard const level(detail::Nesting::schema);
-  archive(cereal::make_nvp("type", required.GetType().GetValue()),
-          cereal::make_nvp("child_types", required.GetChildTypes()));
+  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryOutputArchive>) {
+    detail::WriteNumber(archive, required.GetType().GetValue());
+    detail::WriteCount(archive, required.GetChildTypes().size());
+    for (Required const& child : required.GetChildTypes()) {
+      CEREAL_SAVE_FUNCTION_NAME(archive, child);
+    }
+  } else {
+    archive(cereal::make_nvp("type", required.GetType().GetValue()),
+            cereal::make_nvp("child_types", required.GetChildTypes()));
+  }
 }
 
 template <class Archive>
@@ -25,11 +33,12 @@ void CEREAL_LOAD_FUNCTION_NAME(Archive& archive, Required& required) {
   detail::NestingGuard const level(detail::Nesting::schema);
   unsigned int type = 0;
   std::vector<Required> children;
-  archive(cereal::make_nvp("type", type));
   if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive>) {
-    children =
-        detail::ReadItems<Required>(archive, [](Archive& in, Required& child) { in(child); });
+    type = detail::ReadNumber<unsigned int>(archive);
+    children = detail::ReadItems<Required>(
+        archive, [](Archive& in, Required& child) { CEREAL_LOAD_FUNCTION_NAME(in, child); });
   } else {
+    archive(cereal::make_nvp("type", type));
     // The text forms' counts are those of the parsed document.
     archive(cereal::make_nvp("child_types", children));
   }

@@ -10,6 +10,7 @@
 #include "object/detail/nesting_guard.hpp"
 #include "object/detail/registry_cache.hpp"
 #include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/save_value.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
@@ -22,7 +23,9 @@ void WriteNullRecord(Archive& archive) {
   archive(cereal::make_nvp("typename", std::string()));
 }
 
-void WriteNullRecord(cereal::PortableBinaryOutputArchive& archive) { archive(std::uint32_t(0)); }
+void WriteNullRecord(cereal::PortableBinaryOutputArchive& archive) {
+  detail::WriteNumber(archive, std::uint32_t(0));
+}
 
 }  // namespace
 
@@ -54,8 +57,8 @@ void Save(Archive& archive, std::shared_ptr<Object const> const& object) {
   detail::SaveValue(archive, object.get());
 }
 
-#define RYX_OBJECT_DETAIL_INSTANTIATE(Archive)                                   \
-  template void detail::SaveValue(Archive&, Object const*);                      \
+#define RYX_OBJECT_DETAIL_INSTANTIATE(Archive)              \
+  template void detail::SaveValue(Archive&, Object const*); \
   template void Save(Archive&, std::shared_ptr<Object const> const&);
 RYX_OBJECT_DETAIL_INSTANTIATE(cereal::XMLOutputArchive)
 RYX_OBJECT_DETAIL_INSTANTIATE(cereal::JSONOutputArchive)

@@ -43,8 +43,7 @@ void ReadTypeRecord(cereal::PortableBinaryInputArchive& archive, Object& object)
   if (object.GetOptions().Test(Option::deserializing)) {
     return;
   }
-  std::uint32_t id = 0;
-  archive(id);
+  std::uint32_t const id = ReadNumber<std::uint32_t>(archive);
   if (hash::MurmurThree32(id) != object.GetType()) {
     char const* const name = Object::TypeName(hash::MurmurThree32(id));
     ThrowTypeMismatch(name != nullptr ? name : "[not-registered] " + std::to_string(id), object);

@@ -1,11 +1,16 @@
-// Fields of the portable binary form that are not read as cereal reads them:
-// the input is untrusted, so a bool byte is checked and a count or length is
-// never used to allocate before the bytes it claims have been read.
+// The fields of the portable binary form.
+//
+// Numbers go straight to the archive's binary primitives, in its byte order:
+// the same bytes as archive(value), without cereal's generic dispatch, which
+// costs a chain of dependent loads per field. The input is untrusted, so a
+// bool byte is checked and a count or length is never used to allocate before
+// the bytes it claims have been read.
 #pragma once
 
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -13,25 +18,53 @@
 
 namespace ryx::object::detail {
 
+// A fixed-width number: an integer or a floating-point value.
+template <class T>
+void WriteNumber(cereal::PortableBinaryOutputArchive& archive, T value) {
+  static_assert(std::is_arithmetic_v<T> && !std::is_same_v<T, bool>);
+  archive.template saveBinary<sizeof(T)>(&value, sizeof(T));
+}
+
+template <class T>
+T ReadNumber(cereal::PortableBinaryInputArchive& archive) {
+  static_assert(std::is_arithmetic_v<T> && !std::is_same_v<T, bool>);
+  T value{};
+  archive.template loadBinary<sizeof(T)>(&value, sizeof(T));
+  return value;
+}
+
+// A count or length, 8 bytes.
+inline void WriteCount(cereal::PortableBinaryOutputArchive& archive, std::uint64_t count) {
+  WriteNumber(archive, count);
+}
+
+inline std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive) {
+  return ReadNumber<std::uint64_t>(archive);
+}
+
 // One byte, 0 or 1.
-void WriteBool(cereal::PortableBinaryOutputArchive& archive, bool value);
+inline void WriteBool(cereal::PortableBinaryOutputArchive& archive, bool value) {
+  WriteNumber(archive, static_cast<std::uint8_t>(value ? 1 : 0));
+}
 // std::runtime_error for any other byte.
 bool ReadBool(cereal::PortableBinaryInputArchive& archive);
 
 // Length (8 bytes), then the bytes.
-void WriteString(cereal::PortableBinaryOutputArchive& archive, std::string const& value);
+inline void WriteString(cereal::PortableBinaryOutputArchive& archive, std::string const& value) {
+  WriteCount(archive, value.size());
+  archive.template saveBinary<1>(value.data(), static_cast<std::streamsize>(value.size()));
+}
 std::string ReadString(cereal::PortableBinaryInputArchive& archive);
-
-// A count or length, 8 bytes.
-std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive);
 
 // Reads a count and then that many items with readItem(archive, item). Room
 // is made ahead for a few items only and then the list grows item by item, so
 // a count larger than the stream fails when the stream ends, having held
 // little more than was read.
+// Room made ahead of the items a count claims.
+inline constexpr std::uint64_t ReservedAhead = 16;
+
 template <class Item, class ReadItem>
 std::vector<Item> ReadItems(cereal::PortableBinaryInputArchive& archive, ReadItem&& readItem) {
-  constexpr std::uint64_t ReservedAhead = 16;
   std::uint64_t const count = ReadCount(archive);
   std::vector<Item> items;
   items.reserve(static_cast<std::size_t>(std::min(count, ReservedAhead)));

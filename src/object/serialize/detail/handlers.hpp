@@ -29,27 +29,29 @@ namespace detail {
 
 template <class Archive, class T>
 void WriteField(Archive& archive, T const& value) {
-  archive(cereal::make_nvp("value", value));
-}
-inline void WriteField(cereal::PortableBinaryOutputArchive& archive, bool value) {
-  WriteBool(archive, value);
-}
-inline void WriteField(cereal::PortableBinaryOutputArchive& archive, std::string const& value) {
-  WriteString(archive, value);
+  if constexpr (!std::is_same_v<Archive, cereal::PortableBinaryOutputArchive>) {
+    archive(cereal::make_nvp("value", value));
+  } else if constexpr (std::is_same_v<T, bool>) {
+    WriteBool(archive, value);
+  } else if constexpr (std::is_same_v<T, std::string>) {
+    WriteString(archive, value);
+  } else {
+    WriteNumber(archive, value);
+  }
 }
 
 template <class T, class Archive>
 T ReadField(Archive& archive) {
-  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> &&
-                std::is_same_v<T, bool>) {
-    return ReadBool(archive);
-  } else if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive> &&
-                       std::is_same_v<T, std::string>) {
-    return ReadString(archive);
-  } else {
+  if constexpr (!std::is_same_v<Archive, cereal::PortableBinaryInputArchive>) {
     T value{};
     archive(cereal::make_nvp("value", value));
     return value;
+  } else if constexpr (std::is_same_v<T, bool>) {
+    return ReadBool(archive);
+  } else if constexpr (std::is_same_v<T, std::string>) {
+    return ReadString(archive);
+  } else {
+    return ReadNumber<T>(archive);
   }
 }
 

@@ -21,6 +21,7 @@
 #include <ryx/object/serialize/required.hpp>
 #include <ryx/object/serialize/save.hpp>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -42,6 +43,8 @@ namespace ryx::object::detail {
 
 template <class Archive>
 inline constexpr bool IsBinaryInput = std::is_same_v<Archive, cereal::PortableBinaryInputArchive>;
+template <class Archive>
+inline constexpr bool IsBinaryOutput = std::is_same_v<Archive, cereal::PortableBinaryOutputArchive>;
 
 // One child value in a node of its own.
 struct SavedNode {
@@ -143,8 +146,27 @@ struct LoadedEntries {
   };
 };
 
-// The binary counterparts read counts with ReadCount and strings with
-// ReadString, never trusting a count to size storage.
+// The binary counterparts write the same fields through binary_fields.hpp,
+// and read counts with ReadCount and strings with ReadString, never trusting
+// a count to size storage.
+inline void SaveBinaryNodes(cereal::PortableBinaryOutputArchive& archive,
+                            std::vector<std::shared_ptr<Object>> const& objects) {
+  WriteCount(archive, objects.size());
+  for (std::size_t index = 0; index != objects.size(); ++index) {
+    PrefetchAhead(objects, index);
+    SaveValue(archive, objects[index].get());
+  }
+}
+
+inline void SaveBinaryEntries(cereal::PortableBinaryOutputArchive& archive,
+                              Properties const& properties) {
+  WriteCount(archive, properties.size());
+  for (auto const& [key, value] : properties) {
+    WriteString(archive, key);
+    SaveValue(archive, value.get());
+  }
+}
+
 inline std::vector<std::shared_ptr<Object>> LoadBinaryNodes(
     cereal::PortableBinaryInputArchive& archive) {
   return ReadItems<std::shared_ptr<Object>>(
@@ -154,6 +176,7 @@ inline std::vector<std::shared_ptr<Object>> LoadBinaryNodes(
 inline Properties LoadBinaryEntries(cereal::PortableBinaryInputArchive& archive) {
   std::uint64_t const count = ReadCount(archive);
   Properties properties;
+  properties.reserve(static_cast<std::size_t>(std::min(count, ReservedAhead)));
   for (std::uint64_t index = 0; index != count; ++index) {
     std::string key = ReadString(archive);
     std::shared_ptr<Object> value;
@@ -171,8 +194,13 @@ template <class Base>
 template <class Archive>
 void Array<Base>::Serialize(Archive& archive) const {
   detail::WriteTypeRecord(archive, *this);
-  archive(cereal::make_nvp("required", required),
-          cereal::make_nvp("objects", detail::SavedNodes{objects}));
+  if constexpr (detail::IsBinaryOutput<Archive>) {
+    CEREAL_SAVE_FUNCTION_NAME(archive, required);
+    detail::SaveBinaryNodes(archive, objects);
+  } else {
+    archive(cereal::make_nvp("required", required),
+            cereal::make_nvp("objects", detail::SavedNodes{objects}));
+  }
 }
 
 template <class Base>
@@ -181,11 +209,12 @@ void Array<Base>::Serialize(Archive& archive) {
   detail::ReadTypeRecord(archive, *this);
   Required loadedRequired;
   Objects loadedObjects;
-  archive(cereal::make_nvp("required", loadedRequired));
   if constexpr (detail::IsBinaryInput<Archive>) {
+    CEREAL_LOAD_FUNCTION_NAME(archive, loadedRequired);
     loadedObjects = detail::LoadBinaryNodes(archive);
   } else {
-    archive(cereal::make_nvp("objects", detail::LoadedNodes{loadedObjects}));
+    archive(cereal::make_nvp("required", loadedRequired),
+            cereal::make_nvp("objects", detail::LoadedNodes{loadedObjects}));
   }
   // What the document holds, unchecked: loading restores, it does not build.
   swap(required, loadedRequired);
@@ -196,8 +225,13 @@ template <class Base>
 template <class Archive>
 void Dictionary<Base>::Serialize(Archive& archive) const {
   detail::WriteTypeRecord(archive, *this);
-  archive(cereal::make_nvp("properties", detail::SavedEntries{properties}),
-          cereal::make_nvp("required", required));
+  if constexpr (detail::IsBinaryOutput<Archive>) {
+    detail::SaveBinaryEntries(archive, properties);
+    CEREAL_SAVE_FUNCTION_NAME(archive, required);
+  } else {
+    archive(cereal::make_nvp("properties", detail::SavedEntries{properties}),
+            cereal::make_nvp("required", required));
+  }
 }
 
 template <class Base>
@@ -208,10 +242,11 @@ void Dictionary<Base>::Serialize(Archive& archive) {
   Required loadedRequired;
   if constexpr (detail::IsBinaryInput<Archive>) {
     loadedProperties = detail::LoadBinaryEntries(archive);
+    CEREAL_LOAD_FUNCTION_NAME(archive, loadedRequired);
   } else {
-    archive(cereal::make_nvp("properties", detail::LoadedEntries{loadedProperties}));
+    archive(cereal::make_nvp("properties", detail::LoadedEntries{loadedProperties}),
+            cereal::make_nvp("required", loadedRequired));
   }
-  archive(cereal::make_nvp("required", loadedRequired));
   swap(required, loadedRequired);
   properties.swap(loadedProperties);
 }

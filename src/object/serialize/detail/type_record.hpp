@@ -9,6 +9,7 @@
 #include <string>
 
 #include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/binary_fields.hpp"
 
 namespace ryx::object::detail {
 
@@ -29,7 +30,7 @@ void WriteTypeRecord(Archive& archive, Object const& object) {
 }
 
 inline void WriteTypeRecord(cereal::PortableBinaryOutputArchive& archive, Object const& object) {
-  archive(object.GetType().GetValue());
+  WriteNumber(archive, object.GetType().GetValue());
 }
 
 template <class Archive>
