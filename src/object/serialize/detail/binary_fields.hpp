@@ -56,13 +56,13 @@ inline void WriteString(cereal::PortableBinaryOutputArchive& archive, std::strin
 }
 std::string ReadString(cereal::PortableBinaryInputArchive& archive);
 
+// Room made ahead of the items a count claims.
+inline constexpr std::uint64_t ReservedAhead = 16;
+
 // Reads a count and then that many items with readItem(archive, item). Room
 // is made ahead for a few items only and then the list grows item by item, so
 // a count larger than the stream fails when the stream ends, having held
 // little more than was read.
-// Room made ahead of the items a count claims.
-inline constexpr std::uint64_t ReservedAhead = 16;
-
 template <class Item, class ReadItem>
 std::vector<Item> ReadItems(cereal::PortableBinaryInputArchive& archive, ReadItem&& readItem) {
   std::uint64_t const count = ReadCount(archive);
