@@ -107,7 +107,8 @@ class RYX_LOGGING_EXPORT Logger {
       std::string const& text = value;
       return {text.data(), text.size()};
     } else {
-      auto const written = std::to_chars(digits, digits + sizeof(Digits), value);
+      // The unary plus writes a bool or a character as a number, as Functor does.
+      auto const written = std::to_chars(digits, digits + sizeof(Digits), +value);
       return {digits, written.ec == std::errc() ? static_cast<std::size_t>(written.ptr - digits)
                                                 : std::size_t{0}};
     }
