@@ -378,7 +378,10 @@ RYX_OBJECT_API size_t RyxObjectDictSize(RyxObject* dictionary) RYX_OBJECT_NOEXCE
 /* Whether `dictionary` (borrowed) has no entries; false on failure. */
 RYX_OBJECT_API bool RyxObjectDictEmpty(RyxObject* dictionary) RYX_OBJECT_NOEXCEPT;
 
-/* Whether `dictionary` (borrowed) has an entry under `key`; a NULL key gives false silently. */
+/*
+ * Whether `dictionary` (borrowed) has an entry under `key`; a NULL key gives
+ * false silently, any failure (such as no memory for the key) false, logged.
+ */
 RYX_OBJECT_API bool RyxObjectDictContainsKey(RyxObject* dictionary,
                                              char const* key) RYX_OBJECT_NOEXCEPT;
 

@@ -69,12 +69,13 @@ extern "C" bool RyxObjectDictContainsKey(RyxObject* dictionary, char const* key)
     return false;
   }
   return detail::ReadContainer<DictionaryClass>(
-      __func__, dictionary, false, [key](DictionaryClass const& d) {
+      __func__, dictionary, false, [key, function = __func__](DictionaryClass const& d) {
         try {
           return d.Contains(key);
         } catch (...) {
-          // Only the key's copy can fail, for want of memory; the function has
-          // no failure answer but false.
+          // Only the key's copy can fail, for want of memory.
+          detail::ReportCurrentException(function,
+                                         "failed to look up the key in the RYX object dictionary");
           return false;
         }
       });

@@ -14,6 +14,23 @@ using ryx::logging::Level;
 using ryx::logging::Logger;
 using ryx::logging::Name;
 
+// The message OutputReduced, the heap-free fallback of Log, hands the sink.
+std::string Reduced(Logger const& logger, char const* format,
+                    std::vector<std::string> const& arguments) {
+  std::vector<Logger::Piece> pieces;
+  for (auto const& argument : arguments) {
+    pieces.push_back({argument.data(), argument.size()});
+  }
+  std::string heard;
+  RyxLoggingSetSink([](char const*, int, char const* message,
+                       void* context) { *static_cast<std::string*>(context) = message; },
+                    &heard);
+  logger.OutputReduced(Level::Error, format, pieces.data(), pieces.size());
+  RyxLoggingSetSink(nullptr, nullptr);
+  return heard;
+}
+
+// Format and its fallback on the stack alike; the fallback cuts at 511 bytes.
 TEST(LoggerFormat, ReplacesNumberedPlaceholdersAndCopiesEverythingElseAsItIs) {
   struct Case {
     char const* format;
@@ -41,7 +58,9 @@ TEST(LoggerFormat, ReplacesNumberedPlaceholdersAndCopiesEverythingElseAsItIs) {
     logger.Format(&out, logger.GetName(), Level::Error, c.format, functions.data(),
                   functions.size());
     EXPECT_EQ(out, c.expected) << c.format;
+    EXPECT_EQ(Reduced(logger, c.format, c.arguments), c.expected) << c.format;
   }
+  EXPECT_EQ(Reduced(logger, "%0%!", {std::string(600, 'x')}), std::string(511, 'x'));
 }
 
 TEST(LoggerFunctor, AppendsALiteralsWholeLengthACStringUpToItsEndStringsAndNumbers) {

@@ -12,11 +12,17 @@ namespace ryx::object::detail {
 
 namespace {
 
-// Room for `count` more objects, growing geometrically as push_back would.
-void MakeRoom(ChildRelease::Pending& pending, std::size_t count) {
+// Makes room for `count` more objects, growing geometrically as push_back
+// would; false when the stack cannot grow.
+bool Room(ChildRelease::Pending& pending, std::size_t count) noexcept {
   if (pending.capacity() - pending.size() < count) {
-    pending.reserve(std::max(pending.size() + count, 2 * pending.capacity()));
+    try {
+      pending.reserve(std::max(pending.size() + count, 2 * pending.capacity()));
+    } catch (...) {
+      return false;
+    }
   }
+  return true;
 }
 
 }  // namespace
@@ -40,23 +46,22 @@ void ChildRelease::Release(Pending& pending) noexcept {
 }
 
 void ChildRelease::TakeChildren(Object& object, Pending& pending) noexcept {
-  // If the stack cannot grow, the child keeps its children and releases them
-  // through its own destructor: correct, only recursive.
-  try {
-    if (object.Is<Array<Object>>()) {
-      auto& objects = object.As<Array<Object>>().objects;
-      MakeRoom(pending, objects.size());
+  if (object.Is<Array<Object>>()) {
+    auto& objects = object.As<Array<Object>>().objects;
+    if (Room(pending, objects.size())) {
       std::move(objects.begin(), objects.end(), std::back_inserter(pending));
-      objects.clear();
-    } else if (object.Is<Dictionary<Object>>()) {
-      auto& properties = object.As<Dictionary<Object>>().properties;
-      MakeRoom(pending, properties.size());
+    }
+    // Without room the children are released in place, each through its own
+    // destructor: correct, only recursive.
+    objects.clear();
+  } else if (object.Is<Dictionary<Object>>()) {
+    auto& properties = object.As<Dictionary<Object>>().properties;
+    if (Room(pending, properties.size())) {
       for (auto& entry : properties) {
         pending.push_back(std::move(entry.second));
       }
-      properties.clear();
     }
-  } catch (...) {
+    properties.clear();
   }
 }
 

@@ -6,6 +6,8 @@
 // children to Release, which keeps them on a heap stack and, for each child it
 // is the last owner of, moves that child's own children onto the stack before
 // letting it go. Every destructor then runs on a container already emptied.
+// Releasing never depends on memory: when the stack cannot grow, the children
+// that do not fit are released in place, recursively.
 #pragma once
 
 #include <ryx/object/fwd.hpp>
@@ -24,7 +26,9 @@ struct ChildRelease {
   static void Release(Pending& pending) noexcept;
 
 private:
-  // Moves the children of a container that is about to die onto `pending`.
+  // Moves the children of a container that is about to die onto `pending`,
+  // or releases them in place when `pending` cannot grow; either way the
+  // container is left empty.
   static void TakeChildren(Object& object, Pending& pending) noexcept;
 };
 

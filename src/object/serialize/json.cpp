@@ -20,7 +20,16 @@ std::string ToJson(std::shared_ptr<Object const> const& value) {
   {
     // The archive completes the document when it is destroyed.
     cereal::JSONOutputArchive archive(text);
-    Save(archive, value);
+    try {
+      Save(archive, value);
+    } catch (...) {
+      // The document is dropped. Its destructor must not close the node that
+      // failed: the writer may not have opened it, and its checks would throw
+      // from a noexcept destructor. A node marked as an array not yet started
+      // is left alone.
+      archive.makeArray();
+      throw;
+    }
   }
   return text.Take();
 }

@@ -8,6 +8,7 @@
 #include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
 #include "object/serialize/detail/xml_depth.hpp"
+#include "object/serialize/detail/xml_formatting.hpp"
 
 namespace ryx::object {
 
@@ -34,6 +35,7 @@ std::string ToXml(std::shared_ptr<Object const> const& value) {
   {
     // The archive writes the document when it is destroyed.
     cereal::XMLOutputArchive archive(text);
+    archive.saveValue(detail::ThrowFormattingFailures{});
     Save(archive, value);
   }
   return text.Take();

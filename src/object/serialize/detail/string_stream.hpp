@@ -1,12 +1,19 @@
 // detail::StringStream: an output stream that writes straight into the
 // std::string it hands back, so the To... functions neither copy the finished
 // text (as std::ostringstream::str() does) nor grow it in small steps.
+//
+// A failed growth throws from the buffer. std::ostream catches that and only
+// sets badbit, which the archives do not look at, so the buffer keeps the
+// failure and Take throws it: a text that lost a write is never returned.
+// The stream itself never throws, because the text archives write their last
+// bytes from noexcept destructors.
 #pragma once
 
 #include <algorithm>
 #include <climits>
 #include <cstddef>
 #include <cstring>
+#include <exception>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -16,8 +23,12 @@ namespace ryx::object::detail {
 
 class StringBuffer : public std::streambuf {
  public:
-  // The text written so far; the buffer is empty afterwards.
+  // The text written so far; the buffer is empty afterwards. Throws the
+  // failure of a write that did not reach the text.
   std::string Take() {
+    if (failure) {
+      std::rethrow_exception(std::exchange(failure, nullptr));
+    }
     text.resize(Written());
     std::string taken = std::move(text);
     text.clear();
@@ -55,7 +66,12 @@ class StringBuffer : public std::streambuf {
   // Doubles the storage at least, so that writing n bytes costs O(n).
   void Grow(std::size_t needed) {
     std::size_t const written = Written();
-    text.resize(std::max({written + needed, 2 * text.size(), std::size_t(4096)}));
+    try {
+      text.resize(std::max({written + needed, 2 * text.size(), std::size_t(4096)}));
+    } catch (...) {
+      failure = std::current_exception();
+      throw;
+    }
     setp(text.data(), text.data() + text.size());
     Advance(written);
   }
@@ -70,6 +86,7 @@ class StringBuffer : public std::streambuf {
   }
 
   std::string text;
+  std::exception_ptr failure;
 };
 
 class StringStream : private StringBuffer, public std::ostream {

@@ -32,8 +32,9 @@ class RYX_TEMPLATING_EXPORT Data : public cereal::OutputArchive<Data> {
   // The tree built so far.
   mstch::node const& GetRoot() const noexcept { return root; }
   // Moves the finished tree out, sparing a copy of a large tree; the archive
-  // must not be used afterwards.
-  mstch::node TakeRoot() && noexcept { return std::move(root); }
+  // must not be used afterwards. Moving a node allocates (boost::variant
+  // moves its recursive alternatives into new boxes), so this may throw.
+  mstch::node TakeRoot() && { return std::move(root); }
 
   // The name under which the next value or node goes into the current map.
   // Not copied: it must stay valid until that value or node is placed.
@@ -69,7 +70,9 @@ class RYX_TEMPLATING_EXPORT Data : public cereal::OutputArchive<Data> {
   template <class T, std::enable_if_t<std::is_arithmetic_v<T>, int> = 0>
   static mstch::node Render(T value) {
     // A fresh stream: default flags and precision, whatever the caller's are.
+    // A failed growth is rethrown rather than left as badbit and a short text.
     std::ostringstream text;
+    text.exceptions(std::ios::badbit);
     if constexpr (std::is_floating_point_v<T>) {
       text << static_cast<double>(value);
     } else if constexpr (sizeof(T) == 1) {

@@ -1,0 +1,368 @@
+// Refuses allocations inside one call at a time: the k-th alone, then every
+// one from the k-th on, for k = 1, 2, ... until the call no longer reaches its
+// k-th allocation. Every call must end with its documented failure (a status,
+// NULL or false with one log line from the C functions, std::bad_alloc from
+// C++) or with the complete result, leave its inputs as they were where it
+// promises that, and leak nothing once everything is released.
+//
+// The program replaces malloc, calloc, realloc and free, which operator new
+// and delete call too (nothing here asks for over-aligned memory), so it
+// cannot run beside the sanitizers' own allocator.
+#include <ryx/logging.h>
+#include <ryx/object.h>
+#include <ryx/object.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <new>
+#include <optional>
+#include <string>
+
+#include "support.hpp"
+
+namespace {
+
+struct {
+  bool armed = false;
+  long refuseAt = 0;        // the first allocation of the armed call to refuse, from 1
+  bool refuseRest = false;  // after the first refusal, refuse every later one too
+  long seen = 0;
+  long refused = 0;
+  long live = 0;  // blocks of the whole process not yet freed
+} allocations;
+
+bool Refuse() noexcept {
+  if (!allocations.armed) {
+    return false;
+  }
+  ++allocations.seen;
+  bool const refuse = allocations.seen == allocations.refuseAt ||
+                      (allocations.refuseRest && allocations.refused > 0);
+  allocations.refused += refuse ? 1 : 0;
+  return refuse;
+}
+
+void* Counted(void* block) noexcept {
+  allocations.live += block != nullptr ? 1 : 0;
+  return block;
+}
+
+}  // namespace
+
+extern "C" {
+void* __libc_malloc(std::size_t) noexcept;
+void* __libc_calloc(std::size_t, std::size_t) noexcept;
+void* __libc_realloc(void*, std::size_t) noexcept;
+void __libc_free(void*) noexcept;
+
+void* malloc(std::size_t size) noexcept {
+  return Refuse() ? nullptr : Counted(__libc_malloc(size));
+}
+void* calloc(std::size_t count, std::size_t size) noexcept {
+  return Refuse() ? nullptr : Counted(__libc_calloc(count, size));
+}
+void free(void* block) noexcept {
+  if (block != nullptr) {
+    --allocations.live;
+    __libc_free(block);
+  }
+}
+void* realloc(void* block, std::size_t size) noexcept {
+  if (block == nullptr) {
+    return malloc(size);
+  }
+  if (size == 0) {
+    free(block);
+    return nullptr;
+  }
+  return Refuse() ? nullptr : __libc_realloc(block, size);
+}
+}
+
+namespace {
+
+using namespace ryx::object;
+using namespace ryx::object::testing;
+
+// The log, kept without allocating: the sink runs inside the refused call.
+struct {
+  int count = 0;
+  char last[256] = {};
+} logs;
+
+void KeepLog(char const*, int, char const* message, void*) {
+  ++logs.count;
+  std::strncpy(logs.last, message, sizeof logs.last - 1);
+}
+
+// Runs `call` with the scheduled refusals.
+template <class Call>
+auto Armed(Call&& call) {
+  logs.count = 0;
+  allocations.seen = 0;
+  allocations.refused = 0;
+  struct Disarm {
+    ~Disarm() { allocations.armed = false; }
+  } const disarm;
+  allocations.armed = true;
+  return call();
+}
+
+// The result of a C++ call, or nothing when it threw std::bad_alloc.
+template <class Call>
+auto ArmedOrBadAlloc(Call&& call) -> std::optional<decltype(call())> {
+  try {
+    return Armed(call);
+  } catch (std::bad_alloc const&) {
+    return std::nullopt;
+  }
+}
+
+char const LongText[] = "a text longer than any small-string buffer";
+char const NewKey[] = "another key, past any small-string buffer";
+
+std::shared_ptr<Object const> Sample() {
+  auto numbers = std::make_shared<Array<Object>>(std::vector<std::shared_ptr<Object>>{
+      MakeInt(-7), std::make_shared<UInt64>(std::numeric_limits<std::uint64_t>::max()),
+      std::make_shared<Double>(0.1), MakeBool(true)});
+  return std::make_shared<Dictionary<Object>>(Dictionary<Object>::Properties{
+      {"numbers", std::move(numbers)}, {LongText, MakeString(LongText)}});
+}
+
+// Saving the sample armed gives the text of an unarmed save, or bad_alloc.
+template <class Save>
+bool SavesWhole(Save save) {
+  auto const sample = Sample();
+  std::string const expected = save(sample);
+  auto const text = ArmedOrBadAlloc([&] { return save(sample); });
+  if (text) {
+    EXPECT_EQ(*text, expected);
+  }
+  return !text;
+}
+
+// Loading the sample's document armed gives a value equal to it, or bad_alloc.
+template <class Save, class Load>
+bool LoadsWhole(Save save, Load load) {
+  auto const sample = Sample();
+  std::string const document = save(sample);
+  auto const value = ArmedOrBadAlloc([&] { return load(document); });
+  if (value) {
+    EXPECT_TRUE(*value && (*value)->EqualTo(*sample));
+  }
+  return !value;
+}
+
+RyxObject* Int(int32_t value) { return RyxObjectInt32Create(value); }
+RyxObject* ThreeInts() { return RyxObjectArrayCreateObjects(Int(1), Int(2), Int(3), nullptr); }
+RyxObject* ThreeEntries() {
+  return RyxObjectDictCreatePairs("one", Int(1), "two", Int(2), LongText, Int(3), nullptr);
+}
+std::size_t SizeOf(RyxObject* container) { return Snapshot::Of(Peek(container)).elements.size(); }
+
+// A status call on a container of three elements: success leaves `sizeAfter`
+// elements, failure answers RyxObjectStatusFailure and changes nothing.
+template <class Call>
+bool ChangesWhole(RyxObject* container, std::size_t sizeAfter, Call call) {
+  Snapshot const before = Snapshot::Of(Peek(container));
+  RyxObjectStatus const status = Armed([&] { return call(container); });
+  if (status == RyxObjectStatusSuccess) {
+    EXPECT_EQ(SizeOf(container), sizeAfter);
+  } else {
+    EXPECT_EQ(status, RyxObjectStatusFailure);
+    EXPECT_TRUE(Snapshot::Of(Peek(container)) == before);
+  }
+  RyxObjectRelease(container);
+  return status != RyxObjectStatusSuccess;
+}
+
+// A call that takes an element out of a container of three elements as an
+// owned handle. A failure may have removed the element already (documented).
+template <class Call>
+bool PopsWhole(RyxObject* container, Call call) {
+  Snapshot const before = Snapshot::Of(Peek(container));
+  RyxObject* const popped = Armed([&] { return call(container); });
+  if (popped != nullptr || SizeOf(container) != 3) {
+    EXPECT_EQ(SizeOf(container), 2u);
+  } else {
+    EXPECT_TRUE(Snapshot::Of(Peek(container)) == before);
+  }
+  RyxObjectRelease(popped);
+  RyxObjectRelease(container);
+  return popped == nullptr;
+}
+
+// A call that makes a new value: NULL, or a value equal to `expected`.
+template <class Call>
+bool MakesWhole(std::shared_ptr<Object> const& expected, Call call) {
+  RyxObject* const made = Armed(call);
+  if (made != nullptr) {
+    EXPECT_TRUE(Peek(made).EqualTo(*expected));
+  }
+  RyxObjectRelease(made);
+  return made == nullptr;
+}
+
+struct Case {
+  char const* function;  // the start of its failure's log line
+  bool logged;           // whether a failure is logged
+  bool (*run)();         // makes the inputs, calls armed, checks, releases; true on failure
+};
+
+// A representative call of each family of C functions, then the C++ entries.
+// The creations of containers take one value: a failure leaves the values not
+// yet read with the caller, who cannot tell which those were.
+// clang-format off
+Case const Cases[] = {
+  {"RyxObjectReference", false, [] {
+    RyxObject* const value = Int(7);
+    RyxObject* const second = Armed([&] { return RyxObjectReference(value); });
+    EXPECT_EQ(RyxObjectReferenceCount(value), second != nullptr ? 2 : 1);
+    RyxObjectRelease(second);
+    RyxObjectRelease(value);
+    return second == nullptr;
+  }},
+  {"RyxObjectInt32Create", true, [] { return MakesWhole(MakeInt(7), [] { return Int(7); }); }},
+  {"RyxObjectStringCreate", true, [] {
+    return MakesWhole(MakeString(LongText), [] { return RyxObjectStringCreate(LongText); });
+  }},
+  {"RyxObjectEnumCreate", true, [] {
+    RyxObject* const reference = RyxObjectEnumCreate(3);
+    std::shared_ptr<Object> const expected = Object::Copy(Peek(reference));
+    RyxObjectRelease(reference);
+    return MakesWhole(expected, [] { return RyxObjectEnumCreate(3); });
+  }},
+  {"RyxObjectStringSet", false, [] {
+    RyxObject* const string = RyxObjectStringCreate("short");
+    RyxObjectStatus const status = Armed([&] { return RyxObjectStringSet(string, LongText); });
+    char const* text = nullptr;
+    RyxObjectStringGet(string, &text);
+    EXPECT_STREQ(text, status == RyxObjectStatusSuccess ? LongText : "short");
+    EXPECT_TRUE(status == RyxObjectStatusSuccess || status == RyxObjectStatusAllocationFailure);
+    RyxObjectRelease(string);
+    return status != RyxObjectStatusSuccess;
+  }},
+  {"RyxObjectStringConvertAllocate", false, [] {
+    RyxObject* const string = RyxObjectStringCreate(LongText);
+    char* text = nullptr;
+    RyxObjectStatus const status =
+        Armed([&] { return RyxObjectStringConvertAllocate(string, &text); });
+    EXPECT_TRUE(status == RyxObjectStatusSuccess ? std::strcmp(text, LongText) == 0
+                                                 : status == RyxObjectStatusAllocationFailure);
+    std::free(text);
+    return status != RyxObjectStatusSuccess;
+  }},
+  {"RyxObjectArrayCreateObjects", true, [] {
+    RyxObject* const value = Int(1);
+    return MakesWhole(std::make_shared<Array<Object>>(Array<Object>::Objects{MakeInt(1)}),
+                      [&] { return RyxObjectArrayCreateObjects(value, nullptr); });
+  }},
+  {"RyxObjectArrayReserve", true, [] {
+    return ChangesWhole(ThreeInts(), 3, [](RyxObject* a) { return RyxObjectArrayReserve(a, 100); });
+  }},
+  {"RyxObjectArrayClear", true, [] { return ChangesWhole(ThreeInts(), 0, RyxObjectArrayClear); }},
+  {"RyxObjectArrayErase", true, [] {
+    return ChangesWhole(ThreeInts(), 2, [](RyxObject* a) { return RyxObjectArrayErase(a, 1); });
+  }},
+  {"RyxObjectArrayInsertObject", true, [] {
+    RyxObject* const value = Int(9);
+    return ChangesWhole(ThreeInts(), 4,
+                        [value](RyxObject* a) { return RyxObjectArrayInsertObject(a, 1, value); });
+  }},
+  {"RyxObjectArrayPopObject", true, [] {
+    return PopsWhole(ThreeInts(), [](RyxObject* a) { return RyxObjectArrayPopObject(a, 1); });
+  }},
+  {"RyxObjectDictCreatePairs", true, [] {
+    RyxObject* const value = Int(1);
+    auto const expected = std::make_shared<Dictionary<Object>>(
+        Dictionary<Object>::Properties{{LongText, MakeInt(1)}});
+    return MakesWhole(expected, [&] { return RyxObjectDictCreatePairs(LongText, value, nullptr); });
+  }},
+  {"RyxObjectDictContainsKey", true, [] {
+    RyxObject* const dictionary = ThreeEntries();
+    bool const found = Armed([&] { return RyxObjectDictContainsKey(dictionary, LongText); });
+    RyxObjectRelease(dictionary);
+    return !found;
+  }},
+  {"RyxObjectDictPeek", true, [] {
+    RyxObject* const dictionary = ThreeEntries();
+    RyxObject* const slot = Armed([&] { return RyxObjectDictPeek(dictionary, LongText); });
+    EXPECT_TRUE(slot == nullptr || Peek(slot).As<Int32>().Get() == 3);
+    RyxObjectRelease(dictionary);
+    return slot == nullptr;
+  }},
+  {"RyxObjectDictReserve", true, [] {
+    return ChangesWhole(ThreeEntries(), 3,
+                        [](RyxObject* d) { return RyxObjectDictReserve(d, 100); });
+  }},
+  {"RyxObjectDictClear", true, [] { return ChangesWhole(ThreeEntries(), 0, RyxObjectDictClear); }},
+  {"RyxObjectDictErase", true, [] {
+    return ChangesWhole(ThreeEntries(), 2,
+                        [](RyxObject* d) { return RyxObjectDictErase(d, LongText); });
+  }},
+  {"RyxObjectDictSetObject", true, [] {
+    RyxObject* const value = Int(9);
+    return ChangesWhole(ThreeEntries(), 4,
+                        [value](RyxObject* d) { return RyxObjectDictSetObject(d, NewKey, value); });
+  }},
+  {"RyxObjectDictInsertObject", true, [] {
+    RyxObject* const value = Int(9);
+    return ChangesWhole(ThreeEntries(), 4, [value](RyxObject* d) {
+      return RyxObjectDictInsertObject(d, NewKey, value);
+    });
+  }},
+  {"RyxObjectDictPopObject", true, [] {
+    return PopsWhole(ThreeEntries(),
+                     [](RyxObject* d) { return RyxObjectDictPopObject(d, LongText); });
+  }},
+  {"ToJson", false, [] { return SavesWhole(ToJson); }},
+  {"ToXml", false, [] { return SavesWhole(ToXml); }},
+  {"ToBinary", false, [] { return SavesWhole(ToBinary); }},
+  {"Render", false, [] {
+    return SavesWhole([](std::shared_ptr<Object const> const& value) {
+      return Render("{{#properties}}{{key}}={{value.value}};{{/properties}}", value);
+    });
+  }},
+  {"FromJson", false, [] { return LoadsWhole(ToJson, FromJson); }},
+  {"FromXml", false, [] { return LoadsWhole(ToXml, FromXml); }},
+  {"FromBinary", false, [] { return LoadsWhole(ToBinary, FromBinary); }},
+};
+// clang-format on
+
+TEST(AllocationFailure, EveryCallFailsAsDocumentedOrSucceedsWholeAndLeaksNothing) {
+  RyxLoggingSetSink(KeepLog, nullptr);
+  for (Case const& c : Cases) {
+    SCOPED_TRACE(c.function);
+    allocations.refuseAt = 0;
+    EXPECT_FALSE(c.run()) << "fails with every allocation granted";
+    for (bool const rest : {false, true}) {
+      for (long k = 1;; ++k) {
+        allocations.refuseAt = k;
+        allocations.refuseRest = rest;
+        long const live = allocations.live;
+        bool const failed = c.run();
+        long const leaked = allocations.live - live;
+        std::string const refusal =
+            "allocation " + std::to_string(k) + (rest ? " and every later one" : "") + " refused";
+        EXPECT_EQ(leaked, 0) << refusal;
+        int const expectedLogs = failed && c.logged ? 1 : 0;
+        EXPECT_EQ(logs.count, expectedLogs) << refusal << "; last log: " << logs.last;
+        if (expectedLogs == 1) {
+          EXPECT_EQ(std::strncmp(logs.last, c.function, std::strlen(c.function)), 0) << logs.last;
+        }
+        if (allocations.refused == 0) {
+          break;
+        }
+      }
+    }
+  }
+  RyxLoggingSetSink(nullptr, nullptr);
+}
+
+}  // namespace
