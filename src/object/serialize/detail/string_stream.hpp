@@ -7,6 +7,7 @@
 #include <climits>
 #include <cstddef>
 #include <cstring>
+#include <new>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -76,7 +77,16 @@ class StringStream : private StringBuffer, public std::ostream {
  public:
   StringStream() : std::ostream(static_cast<StringBuffer*>(this)) {}
 
-  using StringBuffer::Take;
+  // The text written. The stream swallows what its buffer throws and only
+  // sets badbit; the buffer fails only for want of memory, so a bad stream,
+  // which has lost text, throws std::bad_alloc here instead of handing out a
+  // truncated document.
+  std::string Take() {
+    if (bad()) {
+      throw std::bad_alloc();
+    }
+    return StringBuffer::Take();
+  }
 };
 
 }  // namespace ryx::object::detail

@@ -1,8 +1,8 @@
 // The one way to include cereal's JSON archives.
 //
 // Before the JSON reader is compiled this header makes every failed check of
-// the reader call cereal::archive::ThrowJsonParseError, and makes the parser
-// iterative, so that a deeply nested document costs heap memory in proportion
+// the reader call cereal::archive::ThrowJsonParseError, shares stateless
+// allocators (see json_allocators.hpp), and makes the parser iterative, so that a deeply nested document costs heap memory in proportion
 // to its size instead of stack. Both settings are macros that change inline
 // code, so every translation unit of a program must see the same ones: include
 // this header, never <cereal/archives/json.hpp> or rapidjson directly, before
@@ -16,6 +16,7 @@
 #error "rapidjson was included before <ryx/serialize/archive/json.hpp>"
 #endif
 
+#include <ryx/serialize/archive/json_allocators.hpp>
 #include <ryx/serialize/archive/json_parse_error.hpp>
 
 // An expression, so that it fits wherever the reader places its checks.
@@ -28,9 +29,13 @@
 #define RAPIDJSON_ASSERT(x) RYX_SERIALIZE_JSON_CHECK(x)
 #define RAPIDJSON_PARSE_DEFAULT_FLAGS \
   kParseFullPrecisionFlag | kParseNanAndInfFlag | kParseIterativeFlag
+#define RAPIDJSON_NEW(x) ::cereal::archive::detail::NewJsonAllocator<decltype(x)>()
+#define RAPIDJSON_DELETE(x) ::cereal::archive::detail::DeleteJsonAllocator(x)
 #define CEREAL_RAPIDJSON_ASSERT_THROWS
 #define CEREAL_RAPIDJSON_ASSERT(x) RYX_SERIALIZE_JSON_CHECK(x)
 #define CEREAL_RAPIDJSON_PARSE_DEFAULT_FLAGS \
   kParseFullPrecisionFlag | kParseNanAndInfFlag | kParseIterativeFlag
+#define CEREAL_RAPIDJSON_NEW(x) ::cereal::archive::detail::NewJsonAllocator<decltype(x)>()
+#define CEREAL_RAPIDJSON_DELETE(x) ::cereal::archive::detail::DeleteJsonAllocator(x)
 
 #include <cereal/archives/json.hpp>

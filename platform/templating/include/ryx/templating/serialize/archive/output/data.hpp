@@ -32,8 +32,9 @@ class RYX_TEMPLATING_EXPORT Data : public cereal::OutputArchive<Data> {
   // The tree built so far.
   mstch::node const& GetRoot() const noexcept { return root; }
   // Moves the finished tree out, sparing a copy of a large tree; the archive
-  // must not be used afterwards.
-  mstch::node TakeRoot() && noexcept { return std::move(root); }
+  // must not be used afterwards. Moving a map node allocates (the variant
+  // keeps it behind a recursive wrapper), so this may throw std::bad_alloc.
+  mstch::node TakeRoot() && { return std::move(root); }
 
   // The name under which the next value or node goes into the current map.
   // Not copied: it must stay valid until that value or node is placed.
