@@ -10,6 +10,7 @@
 #include "capi/detail/handle.hpp"
 #include "capi/detail/report.hpp"
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -20,13 +21,24 @@ namespace {
 namespace detail = ryx::object::capi::detail;
 using ryx::object::Object;
 
-bool IsKnown(RyxObjectForm form) noexcept {
-  return form == RyxObjectFormJson || form == RyxObjectFormXml || form == RyxObjectFormBinary;
+// A C caller may pass any int as a form, but a C++ value of the enumeration
+// outside its enumerators' range must not even be read: the number is taken
+// from its bytes instead.
+int FormNumber(RyxObjectForm const& form) noexcept {
+  static_assert(sizeof(RyxObjectForm) == sizeof(int));
+  int number = 0;
+  std::memcpy(&number, &form, sizeof number);
+  return number;
 }
 
-RyxObjectStatus ReportUnknownForm(char const* function, RyxObjectForm form) noexcept {
-  detail::Report("%0%: the form parameter was not a RYX form: %1%", function,
-                 static_cast<int>(form));
+// Checks the form first, logging an unknown one; answers
+// RyxObjectStatusSuccess for a known one.
+RyxObjectStatus CheckForm(char const* function, RyxObjectForm const& form) noexcept {
+  int const number = FormNumber(form);
+  if (number == RyxObjectFormJson || number == RyxObjectFormXml || number == RyxObjectFormBinary) {
+    return RyxObjectStatusSuccess;
+  }
+  detail::Report("%0%: the form parameter was not a RYX form: %1%", function, number);
   return RyxObjectStatusInvalidParameter;
 }
 
@@ -64,8 +76,8 @@ extern "C" RyxObjectStatus RyxObjectSave(RyxObject const* object, RyxObjectForm 
   if (size == nullptr) {
     return detail::ReportNullParameter(__func__, "size");
   }
-  if (!IsKnown(form)) {
-    return ReportUnknownForm(__func__, form);
+  if (RyxObjectStatus const status = CheckForm(__func__, form); status != RyxObjectStatusSuccess) {
+    return status;
   }
   return detail::CallReporting(__func__, "failed to save the RYX object", [&] {
     detail::HandOut(SaveAs(form, detail::ValueOrNull(object)), data, size);
@@ -80,8 +92,8 @@ extern "C" RyxObjectStatus RyxObjectLoad(RyxObjectForm form, char const* data, s
   if (object == nullptr) {
     return detail::ReportNullParameter(__func__, "object");
   }
-  if (!IsKnown(form)) {
-    return ReportUnknownForm(__func__, form);
+  if (RyxObjectStatus const status = CheckForm(__func__, form); status != RyxObjectStatusSuccess) {
+    return status;
   }
   return detail::CallReporting(__func__, "failed to load the RYX object", [&] {
     auto value = LoadAs(form, std::string_view(data, size));

@@ -82,11 +82,14 @@ static void NullPointersAndUnknownFormsAreRefusedLeavingTheOutputs(void) {
   char* data = unwritten;
   size_t size = UNWRITTEN_SIZE;
 
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectSave(record, RyxObjectFormJson, NULL, &size));
+  CHECK_STATUS(RyxObjectStatusInvalidParameter,
+               RyxObjectSave(record, RyxObjectFormJson, NULL, &size));
   CHECK_LOGGED("RyxObjectSave: the data parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectSave(record, RyxObjectFormJson, &data, NULL));
+  CHECK_STATUS(RyxObjectStatusInvalidParameter,
+               RyxObjectSave(record, RyxObjectFormJson, &data, NULL));
   CHECK_LOGGED("RyxObjectSave: the size parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectSave(record, (RyxObjectForm)3, &data, &size));
+  CHECK_STATUS(RyxObjectStatusInvalidParameter,
+               RyxObjectSave(record, (RyxObjectForm)3, &data, &size));
   CHECK_LOGGED("RyxObjectSave: the form parameter was not a RYX form: 3");
 
   CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad(RyxObjectFormJson, NULL, 0, &loaded));
@@ -136,7 +139,8 @@ static void BadDocumentsAndUnsavableValuesFailWithTheReason(void) {
                  RyxObjectLoad(bad[i].form, bad[i].document, bad[i].size, &loaded));
     CHECK_LOGGED(bad[i].message);
   }
-  CHECK_STATUS(RyxObjectStatusFailure, RyxObjectSave(unregistered, RyxObjectFormJson, &data, &size));
+  CHECK_STATUS(RyxObjectStatusFailure,
+               RyxObjectSave(unregistered, RyxObjectFormJson, &data, &size));
   CHECK_LOGGED(
       "RyxObjectSave: failed to save the RYX object: The class has not been registered: "
       "(anonymous namespace)::Unregistered");
@@ -162,18 +166,18 @@ static void RenderFillsTheTemplateFromTheValue(void) {
 }
 
 /* The three functions behind one signature, for the allocation test. */
-typedef RyxObjectStatus (*Attempt)(RyxObjectForm form, RyxObject const* record, char const* document,
-                                   size_t documentSize, char** data, size_t* size,
-                                   RyxObject** loaded);
-static RyxObjectStatus AttemptSave(RyxObjectForm form, RyxObject const* record, char const* document,
-                                   size_t documentSize, char** data, size_t* size,
-                                   RyxObject** loaded) {
+typedef RyxObjectStatus (*Attempt)(RyxObjectForm form, RyxObject const* record,
+                                   char const* document, size_t documentSize, char** data,
+                                   size_t* size, RyxObject** loaded);
+static RyxObjectStatus AttemptSave(RyxObjectForm form, RyxObject const* record,
+                                   char const* document, size_t documentSize, char** data,
+                                   size_t* size, RyxObject** loaded) {
   (void)document, (void)documentSize, (void)loaded;
   return RyxObjectSave(record, form, data, size);
 }
-static RyxObjectStatus AttemptLoad(RyxObjectForm form, RyxObject const* record, char const* document,
-                                   size_t documentSize, char** data, size_t* size,
-                                   RyxObject** loaded) {
+static RyxObjectStatus AttemptLoad(RyxObjectForm form, RyxObject const* record,
+                                   char const* document, size_t documentSize, char** data,
+                                   size_t* size, RyxObject** loaded) {
   (void)record, (void)data, (void)size;
   return RyxObjectLoad(form, document, documentSize, loaded);
 }

@@ -19,8 +19,9 @@ struct CheckOptions {
 void AddCheck(CLI::App& app) {
   auto options = std::make_shared<CheckOptions>();
   CLI::App* const command = app.add_subcommand(
-      "check", "Load the document: nothing and status 0 when it loads, else its first problem "
-               "and status 1");
+      "check",
+      "Load the document: nothing and status 0 when it loads, else its first problem "
+      "and status 1");
   AddDocumentOptions(*command, options->document);
   command->add_flag("-q,--quiet", options->quiet, "Only the exit status tells the outcome");
   command->callback([options] {

@@ -33,9 +33,8 @@ void AddConvert(CLI::App& app) {
       ->option_text("json|xml|binary REQUIRED");
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
-  command->callback([options] {
-    WriteOutput(options->output, Convert(*options), options->to == Form::Binary);
-  });
+  command->callback(
+      [options] { WriteOutput(options->output, Convert(*options), options->to == Form::Binary); });
 }
 
 }  // namespace ryx::object::tool

@@ -57,9 +57,7 @@ class Descriptor {
 
 }  // namespace
 
-std::string DisplayName(std::string const& path) {
-  return path == "-" ? "standard input" : path;
-}
+std::string DisplayName(std::string const& path) { return path == "-" ? "standard input" : path; }
 
 Input::Input(std::string const& path) {
   Descriptor const file(path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));

@@ -26,8 +26,7 @@ void AddRender(CLI::App& app) {
   auto options = std::make_shared<RenderOptions>();
   CLI::App* const command =
       app.add_subcommand("render", "Render a mustache template over the document");
-  command->add_option("TEMPLATE", options->templatePath, "The mustache template file")
-      ->required();
+  command->add_option("TEMPLATE", options->templatePath, "The mustache template file")->required();
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
   command->callback([options] {

@@ -129,8 +129,8 @@ class Printer {
     } else if (value->Is<Pointer<Object, void>>()) {
       out += " to " + TypeText(value->As<Pointer<Object, void>>().GetPointeeType(), "any type");
     } else if (value->Is<Pointer<Object, void const>>()) {
-      out += " to " +
-             TypeText(value->As<Pointer<Object, void const>>().GetPointeeType(), "any type");
+      out +=
+          " to " + TypeText(value->As<Pointer<Object, void const>>().GetPointeeType(), "any type");
     } else {
       AppendIf<bool>(out, *value) || AppendIf<signed char>(out, *value) ||
           AppendIf<short>(out, *value) || AppendIf<int>(out, *value) ||
