@@ -1,12 +1,15 @@
 /*
  * The object model from C: build a nested value through handles, read it
- * back, show one failure and the log line it writes, and release everything.
+ * back, save it as JSON and binary and load it again, show one failure and
+ * the log line it writes, and release everything.
  */
 #include <ryx/logging.h>
 #include <ryx/object.h>
+#include <ryx/object/serialize.h>
 
 #include <stdint.h>
 #include <stdio.h>
+#include <stdlib.h>
 
 /* Prints each failure message where the demonstration can show it. */
 static void PrintLogLine(char const* logger, int level, char const* message, void* context) {
@@ -19,6 +22,9 @@ int main(void) {
   RyxObject* record;
   RyxObject* borrowed;
   RyxObject* keep;
+  RyxObject* loaded;
+  char* document;
+  size_t documentSize;
   char const* name = NULL;
   int32_t size = 0;
   uint16_t colour = 0;
@@ -47,6 +53,20 @@ int main(void) {
   printf("\n");
   RyxObjectEnumGetValue(RyxObjectDictPeek(record, "colour"), &colour);
   printf("colour: %u\n", (unsigned)colour);
+
+  puts("== saving it as JSON and as binary, and loading both back");
+  RyxObjectSave(record, RyxObjectFormJson, &document, &documentSize);
+  RyxObjectLoad(RyxObjectFormJson, document, documentSize, &loaded);
+  printf("JSON, %zu bytes; loaded back, a %s with %zu entries\n", documentSize,
+         RyxObjectTypeName(loaded), RyxObjectDictSize(loaded));
+  free(document);
+  RyxObjectRelease(loaded);
+  RyxObjectSave(record, RyxObjectFormBinary, &document, &documentSize);
+  RyxObjectLoad(RyxObjectFormBinary, document, documentSize, &loaded);
+  RyxObjectStringGet(RyxObjectDictPeek(loaded, "name"), &name);
+  printf("binary, %zu bytes; loaded back, its name is %s\n", documentSize, name);
+  free(document);
+  RyxObjectRelease(loaded);
 
   puts("== a failure: reading the name as a 32-bit integer");
   status = RyxObjectInt32Get(RyxObjectDictPeek(record, "name"), &size);

@@ -85,6 +85,7 @@ int main(int argc, char** argv) {
   RunAll(ArrayTests, ArrayTestCount, only);
   RunAll(DictionaryTests, DictionaryTestCount, only);
   RunAll(EnumTests, EnumTestCount, only);
+  RunAll(SerializeTests, SerializeTestCount, only);
   RyxLoggingSetSink(NULL, NULL);
   if (failures != 0) {
     fprintf(stderr, "%d check(s) failed\n", failures);

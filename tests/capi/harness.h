@@ -49,5 +49,6 @@ DECLARE_TESTS(String);
 DECLARE_TESTS(Array);
 DECLARE_TESTS(Dictionary);
 DECLARE_TESTS(Enum);
+DECLARE_TESTS(Serialize);
 
 #endif

@@ -1,5 +1,5 @@
 # Checks the dynamic symbol tables of the shared libraries:
-#  - the C functions they export, the list c_functions.txt and the functions
+#  - the C functions they export (a static library: define), the list c_functions.txt and the functions
 #    the public C headers declare are one and the same set;
 #  - every C++ symbol they export names an entity of the ryx namespace (for
 #    libryx_serialize also its cereal::archive error and cereal::Is), so no
@@ -20,7 +20,12 @@ foreach(library IN LISTS libraries)
   if(name MATCHES "ryx_serialize")
     string(APPEND allowed "|6cereal7archive|6cereal2Is")
   endif()
-  execute_process(COMMAND "${NM}" -D --defined-only "${library}"
+  # A static library's symbols are those it defines for the program.
+  set(table_option -D)
+  if(name MATCHES "\\.a$")
+    set(table_option --extern-only)
+  endif()
+  execute_process(COMMAND "${NM}" ${table_option} --defined-only "${library}"
     OUTPUT_VARIABLE table COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL "[^\n]+" lines "${table}")
   foreach(line IN LISTS lines)
@@ -29,6 +34,11 @@ foreach(library IN LISTS libraries)
     endif()
     set(binding "${CMAKE_MATCH_1}")
     set(symbol "${CMAKE_MATCH_2}")
+    # The compiler's own weak helpers in an archive never reach a program's
+    # dynamic symbol table.
+    if(table_option STREQUAL "--extern-only" AND binding MATCHES "^[VWvw]$")
+      continue()
+    endif()
     if(binding STREQUAL "u")
       list(APPEND problems "${name}: unique symbol ${symbol}")
     endif()

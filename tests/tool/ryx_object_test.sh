@@ -1,0 +1,139 @@
+#!/usr/bin/env bash
+# Runs the ryx-object tool on small documents of every form and checks what it
+# writes and its exit status.
+#   ryx_object_test.sh TOOL
+set -u
+tool="$1"
+here="$(cd "$(dirname "$0")" && pwd)"
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+passed=0
+failed=0
+
+fail() {
+  echo "FAILED: $1"
+  sed 's/^/  stderr: /' err
+  failed=$((failed + 1))
+}
+
+# expect STATUS NAME COMMAND...: runs COMMAND (stdout to out, stderr to err)
+# and checks its exit status; failures must say one "ryx-object: " line and
+# successes nothing on stderr.
+expect() {
+  local status="$1" name="$2"
+  shift 2
+  "$@" >out 2>err
+  local got=$?
+  if [ "$got" -ne "$status" ]; then
+    fail "$name: exit status $got, expected $status"
+  elif [ "$status" -ne 0 ] && ! { [ "$(wc -l <err)" -eq 1 ] && grep -q '^ryx-object: ' err; }; then
+    fail "$name: expected one line starting with 'ryx-object: ' on stderr"
+  elif [ "$status" -eq 0 ] && [ -s err ]; then
+    fail "$name: wrote to stderr"
+  else
+    passed=$((passed + 1))
+  fi
+}
+
+# same NAME FILE EXPECTED-FILE
+same() {
+  if cmp -s "$2" "$3"; then
+    passed=$((passed + 1))
+  else
+    echo "FAILED: $1"
+    diff "$3" "$2" | sed 's/^/  /'
+    failed=$((failed + 1))
+  fi
+}
+
+cat >tree.expected <<'TREE'
+ryx.object.Dictionary {
+  "mixed": ryx.object.Array [
+    [0] ryx.object.Int8 65
+    [1] ryx.object.UInt64 18446744073709551615
+    [2] ryx.object.Double 0.1
+    [3] ryx.object.Bool true
+    [4] null
+    [5] ryx.object.Enum 2 of 0x00003039
+    [6] ryx.object.ConstPointer to ryx.object.Int32
+  ]
+  "name": ryx.object.String "widget \"w\"\n"
+  "sizes": ryx.object.Array required ryx.object.Int32 [
+    [0] ryx.object.Int32 -1
+    [1] ryx.object.Int32 2
+  ]
+}
+TREE
+
+# Every form round trips, its form recognised from its first bytes, from a
+# file and from standard input.
+expect 0 "print a JSON file" "$tool" print "$here/record.json"
+same "the tree of the JSON document" out tree.expected
+for form in json xml binary; do
+  expect 0 "convert to $form" "$tool" convert --to "$form" -o "record.$form" "$here/record.json"
+  expect 0 "print $form from a file" "$tool" print "record.$form"
+  same "the tree of the $form document" out tree.expected
+  expect 0 "print $form from standard input" sh -c "\"$tool\" print --from $form <record.$form"
+  same "the tree of the $form document from standard input" out tree.expected
+  expect 0 "check $form" "$tool" check "record.$form"
+  same "check says nothing" out /dev/null
+done
+
+# The binary form in both byte orders, written by hand: an array with the
+# default schema holding the Int32 7.
+"$tool" id ryx.object.Array ryx.object.Int32 >ids
+array="$(awk 'NR == 1 { print substr($3, 3) }' ids)"
+int32="$(awk 'NR == 2 { print substr($3, 3) }' ids)"
+big() { sed 's/../\\x&/g' <<<"$1"; }
+little() { sed 's/\(..\)\(..\)\(..\)\(..\)/\\x\4\\x\3\\x\2\\x\1/' <<<"$1"; }
+zeros=$(printf '\\x00%.0s' {1..12})
+printf "\x00$(big "$array")$zeros\x00\x00\x00\x00\x00\x00\x00\x01$(big "$int32")\x00\x00\x00\x07" >big.bin
+printf "\x01$(little "$array")$zeros\x01\x00\x00\x00\x00\x00\x00\x00$(little "$int32")\x07\x00\x00\x00" >little.bin
+printf 'ryx.object.Array [\n  [0] ryx.object.Int32 7\n]\n' >array.expected
+for order in big little; do
+  expect 0 "print $order-endian binary" "$tool" print "$order.bin"
+  same "the tree of the $order-endian document" out array.expected
+done
+
+# Bad documents of every form: the loader's reason, or only the status.
+head -c 30 big.bin >cut.bin
+printf '{"typename": "ryx.object.Int32", "value": "seven"}' >bad.json
+printf '<cereal><typename>ryx.object.Int32</typename><value>seven</value></cereal>' >bad.xml
+printf 'hello' >bad.text
+for bad in cut.bin bad.json bad.xml bad.text; do
+  expect 1 "check $bad" "$tool" check "$bad"
+  grep -q "^ryx-object: $bad: " err || fail "check $bad: the message names the file"
+  expect 1 "convert $bad" "$tool" convert --to json "$bad"
+  "$tool" check --quiet "$bad" >out 2>err
+  [ $? -eq 1 ] && [ ! -s out ] && [ ! -s err ] && passed=$((passed + 1)) ||
+    fail "check --quiet $bad: status 1 and no output"
+done
+
+# A template over the document.
+printf '{{#properties}}{{key}}:{{#value}}{{#objects}}{{#is.typename.ryx.object.Int32}} {{value}}%s;{{/properties}}' \
+  '{{/is.typename.ryx.object.Int32}}{{/objects}}{{/value}}' >list.mustache
+expect 0 "render" "$tool" render list.mustache record.binary
+tr ';' '\n' <out | sort >rendered
+printf 'mixed:\nname:\nsizes: -1 2\n' >rendered.expected
+same "the rendered template" rendered rendered.expected
+
+# Type ids: id agrees with the registry's list of its 17 types.
+expect 0 "types" "$tool" types
+[ "$(wc -l <out)" -eq 17 ] && grep -qxF "$(sed -n 2p ids)" out && passed=$((passed + 1)) ||
+  fail "types lists 17 types, ryx.object.Int32 with the id that id gives"
+
+# Usage errors.
+expect 2 "no subcommand" "$tool"
+expect 2 "an unknown form" "$tool" convert --to yaml record.json
+expect 2 "a missing --to" "$tool" convert record.json
+expect 2 "a missing file" "$tool" print missing.json
+expect 2 "an output that cannot be created" "$tool" convert --to xml -o missing/out.xml record.json
+if command -v script >/dev/null; then
+  # script gives the tool a terminal as standard output.
+  expect 2 "binary to a terminal" sh -c 'script -qec "\"$1\" convert --to binary record.json 2>tty.err" \
+    /dev/null >/dev/null; status=$?; cat tty.err >&2; exit $status' sh "$tool"
+fi
+
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]
