@@ -1,0 +1,58 @@
+#include "object/serialize/detail/json_kind.hpp"
+
+#include <tuple>
+
+#include "object/serialize/detail/handlers.hpp"
+
+namespace ryx::object::detail {
+
+namespace {
+
+template <class Function, template <class, class> class Handler, class Archive>
+JsonKind KindOf(Function const& function) {
+  if (!function) {
+    return JsonKind::none;
+  }
+  JsonKind kind = JsonKind::other;
+  auto const match = [&](auto tag, JsonKind candidate) {
+    using Kind = typename decltype(tag)::type;
+    if (function.template target<Handler<Kind, Archive>>() != nullptr) {
+      kind = candidate;
+    }
+  };
+#define RYX_OBJECT_DETAIL_MATCH(Type, Name) match(std::common_type<Type>(), JsonKind::Name);
+  RYX_OBJECT_DETAIL_MATCH(Bool, Bool)
+  RYX_OBJECT_DETAIL_MATCH(Int8, Int8)
+  RYX_OBJECT_DETAIL_MATCH(Int16, Int16)
+  RYX_OBJECT_DETAIL_MATCH(Int32, Int32)
+  RYX_OBJECT_DETAIL_MATCH(Int64, Int64)
+  RYX_OBJECT_DETAIL_MATCH(UInt8, UInt8)
+  RYX_OBJECT_DETAIL_MATCH(UInt16, UInt16)
+  RYX_OBJECT_DETAIL_MATCH(UInt32, UInt32)
+  RYX_OBJECT_DETAIL_MATCH(UInt64, UInt64)
+  RYX_OBJECT_DETAIL_MATCH(Float, Float)
+  RYX_OBJECT_DETAIL_MATCH(Double, Double)
+  RYX_OBJECT_DETAIL_MATCH(String, String)
+  RYX_OBJECT_DETAIL_MATCH(ArrayKind, Array)
+  RYX_OBJECT_DETAIL_MATCH(DictionaryKind, Dictionary)
+  RYX_OBJECT_DETAIL_MATCH(EnumKind, Enum)
+  RYX_OBJECT_DETAIL_MATCH(PointerKind, Pointer)
+  RYX_OBJECT_DETAIL_MATCH(ConstPointerKind, ConstPointer)
+#undef RYX_OBJECT_DETAIL_MATCH
+  return kind;
+}
+
+}  // namespace
+
+JsonKinds ClassifyJson(registry::Info const& info) {
+  using Output = cereal::JSONOutputArchive;
+  using Input = cereal::JSONInputArchive;
+  return JsonKinds{
+      KindOf<SaveFunction<Output>, SaveHandler, Output>(
+          std::get<SaveFunction<Output>>(info.GetSaveFunctions())),
+      KindOf<LoadFunction<Input>, LoadHandler, Input>(
+          std::get<LoadFunction<Input>>(info.GetLoadFunctions())),
+  };
+}
+
+}  // namespace ryx::object::detail
