@@ -1,0 +1,252 @@
+#include "object/serialize/detail/json_writer.hpp"
+
+#include <ryx/object/required.hpp>
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "object/detail/nesting_guard.hpp"
+#include "object/detail/prefetch.hpp"
+#include "object/detail/registry_cache.hpp"
+#include "object/serialize/detail/archives.hpp"
+#include "object/serialize/detail/json_allocator.hpp"
+#include "object/serialize/detail/json_text.hpp"
+#include "object/serialize/detail/kinds.hpp"
+#include "object/serialize/detail/type_record.hpp"
+
+namespace ryx::object::detail {
+
+namespace {
+
+// The settings of cereal's JSON output archive with its default options.
+constexpr char IndentChar = ' ';
+constexpr unsigned IndentLength = 4;
+constexpr int MaxDecimalPlaces = 324;
+
+using rapidjson::SizeType;
+
+template <class Writer>
+class DirectWriter {
+ public:
+  explicit DirectWriter(Writer& writer) : writer(writer) {}
+
+  // The value's members in the root object; false for a value only the
+  // archive can write.
+  [[nodiscard]] bool Node(Object const* value) {
+    writer.StartObject();
+    if (!Members(value)) {
+      return false;
+    }
+    writer.EndObject();
+    return true;
+  }
+
+ private:
+  [[nodiscard]] bool Members(Object const* value) {
+    NestingGuard const level(Nesting::value);
+    if (value == nullptr) {
+      Name("typename");
+      writer.String("", 0);
+      return true;
+    }
+    CachedRecord const* const record = FindCachedRecord(value->GetType());
+    if (record == nullptr) {
+      ThrowNotRegistered(*value);
+    }
+    switch (record->json.save) {
+      case JsonKind::none:
+        throw std::runtime_error("No serialization function available: " + record->name);
+      case JsonKind::other:
+        return false;
+      case JsonKind::Bool:
+        return WritePrimitive<Bool>(*value, *record);
+      case JsonKind::Int8:
+        return WritePrimitive<Int8>(*value, *record);
+      case JsonKind::Int16:
+        return WritePrimitive<Int16>(*value, *record);
+      case JsonKind::Int32:
+        return WritePrimitive<Int32>(*value, *record);
+      case JsonKind::Int64:
+        return WritePrimitive<Int64>(*value, *record);
+      case JsonKind::UInt8:
+        return WritePrimitive<UInt8>(*value, *record);
+      case JsonKind::UInt16:
+        return WritePrimitive<UInt16>(*value, *record);
+      case JsonKind::UInt32:
+        return WritePrimitive<UInt32>(*value, *record);
+      case JsonKind::UInt64:
+        return WritePrimitive<UInt64>(*value, *record);
+      case JsonKind::Float:
+        return WritePrimitive<Float>(*value, *record);
+      case JsonKind::Double:
+        return WritePrimitive<Double>(*value, *record);
+      case JsonKind::String:
+        return WritePrimitive<String>(*value, *record);
+      case JsonKind::Array:
+        return WriteKind<ArrayKind>(*value, *record);
+      case JsonKind::Dictionary:
+        return WriteKind<DictionaryKind>(*value, *record);
+      case JsonKind::Enum:
+        return WriteKind<EnumKind>(*value, *record);
+      case JsonKind::Pointer:
+        return WriteKind<PointerKind>(*value, *record);
+      case JsonKind::ConstPointer:
+        return WriteKind<ConstPointerKind>(*value, *record);
+    }
+    return false;
+  }
+
+  // The type record; false when the record's function is of another kind
+  // than the value (its checked cast would throw in the archive).
+  template <class T>
+  [[nodiscard]] bool TypeRecord(Object const& value, CachedRecord const& record) {
+    if (!value.Is<T>()) {
+      return false;
+    }
+    Name("typename");
+    Text(record.name);
+    return true;
+  }
+
+  template <class T>
+  [[nodiscard]] bool WritePrimitive(Object const& value, CachedRecord const& record) {
+    if (!TypeRecord<T>(value, record)) {
+      return false;
+    }
+    Name("value");
+    Scalar(static_cast<T const&>(value).Get());
+    return true;
+  }
+
+  // Each C++ type goes to the writer call that cereal's archive picks for it.
+  void Scalar(bool value) { writer.Bool(value); }
+  void Scalar(signed char value) { writer.Int(value); }
+  void Scalar(short value) { writer.Int(value); }
+  void Scalar(int value) { writer.Int(value); }
+  void Scalar(long value) { writer.Int64(value); }
+  void Scalar(unsigned char value) { writer.Int(value); }
+  void Scalar(unsigned short value) { writer.Int(value); }
+  void Scalar(unsigned value) { writer.Uint(value); }
+  void Scalar(unsigned long value) { writer.Uint64(value); }
+  void Scalar(float value) { writer.Double(value); }
+  void Scalar(double value) { writer.Double(value); }
+  void Scalar(std::string const& value) { Text(value); }
+
+  template <class T>
+  [[nodiscard]] bool WriteKind(Object const& value, CachedRecord const& record) {
+    if (!TypeRecord<T>(value, record)) {
+      return false;
+    }
+    return Fields(static_cast<T const&>(value));
+  }
+
+  [[nodiscard]] bool Fields(ArrayKind const& array) {
+    Name("required");
+    Schema(array.GetRequired());
+    Name("objects");
+    writer.StartArray();
+    ArrayKind::Objects const& objects = array.GetObjects();
+    for (std::size_t index = 0; index != objects.size(); ++index) {
+      PrefetchAhead(objects, index);
+      if (!Node(objects[index].get())) {
+        return false;
+      }
+    }
+    writer.EndArray();
+    return true;
+  }
+
+  [[nodiscard]] bool Fields(DictionaryKind const& dictionary) {
+    Name("properties");
+    writer.StartArray();
+    for (auto const& [key, child] : dictionary.GetProperties()) {
+      writer.StartObject();
+      Name("key");
+      Text(key);
+      Name("value");
+      if (!Node(child.get())) {
+        return false;
+      }
+      writer.EndObject();
+    }
+    writer.EndArray();
+    Name("required");
+    Schema(dictionary.GetRequired());
+    return true;
+  }
+
+  [[nodiscard]] bool Fields(EnumKind const& enumerator) {
+    Name("type");
+    writer.Uint(enumerator.GetEnumType().GetValue());
+    Name("value");
+    writer.Uint64(enumerator.GetRawValue());
+    return true;
+  }
+
+  template <class T>
+  [[nodiscard]] bool Fields(object::Pointer<Object, T> const& pointer) {
+    Name("type");
+    writer.Uint(pointer.GetPointeeType().GetValue());
+    return true;
+  }
+
+  void Schema(Required const& required) {
+    NestingGuard const level(Nesting::schema);
+    writer.StartObject();
+    Name("type");
+    writer.Uint(required.GetType().GetValue());
+    Name("child_types");
+    writer.StartArray();
+    for (Required const& child : required.GetChildTypes()) {
+      Schema(child);
+    }
+    writer.EndArray();
+    writer.EndObject();
+  }
+
+  template <std::size_t Size>
+  void Name(char const (&name)[Size]) {
+    writer.Key(name, Size - 1);
+  }
+
+  // The archive hands the writer a 32-bit length.
+  void Text(std::string const& text) {
+    writer.String(text.data(), static_cast<SizeType>(text.size()));
+  }
+
+  Writer& writer;
+};
+
+template <class Writer>
+bool Write(Object const* value, Writer& writer) {
+  writer.SetMaxDecimalPlaces(MaxDecimalPlaces);
+  return DirectWriter<Writer>(writer).Node(value);
+}
+
+}  // namespace
+
+bool WriteJson(Object const* value, JsonLayout layout, std::string& text) {
+  JsonText out;
+  JsonStackAllocator allocator;
+  bool written = false;
+  if (layout == JsonLayout::Indented) {
+    rapidjson::PrettyWriter<JsonText, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator,
+                            rapidjson::kWriteDefaultFlags>
+        writer(out, &allocator);
+    writer.SetIndent(IndentChar, IndentLength);
+    written = Write(value, writer);
+  } else {
+    rapidjson::Writer<JsonText, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator,
+                      rapidjson::kWriteDefaultFlags>
+        writer(out, &allocator);
+    written = Write(value, writer);
+  }
+  if (written) {
+    text = out.Take();
+  }
+  return written;
+}
+
+}  // namespace ryx::object::detail
