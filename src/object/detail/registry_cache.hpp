@@ -1,6 +1,6 @@
 // detail::FindCachedRecord: what saving and loading look up for every value
-// (a type's record, its name as a std::string and which of the library's kinds
-// its JSON functions belong to), found without the registry's lock and without
+// (a type's record, its name as a std::string and what the direct JSON writer
+// and reader need of it), found without the registry's lock and without
 // copying the record's functions.
 //
 // Each thread keeps the addresses of the registry records it has looked up,
@@ -22,7 +22,7 @@ namespace ryx::object::detail {
 struct CachedRecord {
   registry::Info const* info;  // in the registry
   std::string name;            // the record's type name
-  JsonKinds json;              // the kinds of its JSON save and load functions
+  JsonRecord json;
 };
 
 // The entry of `id` on this thread, or null when the id is not registered. The

@@ -1,8 +1,12 @@
 #include "object/serialize/detail/json_kind.hpp"
 
+#include <cstring>
 #include <tuple>
 
 #include "object/serialize/detail/handlers.hpp"
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 namespace ryx::object::detail {
 
@@ -42,16 +46,26 @@ JsonKind KindOf(Function const& function) {
   return kind;
 }
 
+// Escaped by rapidjson's own writer, exactly as the archive escapes it.
+std::string Quoted(char const* name) {
+  rapidjson::StringBuffer quoted;
+  rapidjson::Writer<rapidjson::StringBuffer> writer(quoted);
+  writer.String(name, static_cast<rapidjson::SizeType>(std::strlen(name)));
+  return std::string(quoted.GetString(), quoted.GetSize());
+}
+
 }  // namespace
 
-JsonKinds ClassifyJson(registry::Info const& info) {
+JsonRecord MakeJsonRecord(registry::Info const& info) {
   using Output = cereal::JSONOutputArchive;
   using Input = cereal::JSONInputArchive;
-  return JsonKinds{
+  char const* const name = info.GetTypeName();
+  return JsonRecord{
       KindOf<SaveFunction<Output>, SaveHandler, Output>(
           std::get<SaveFunction<Output>>(info.GetSaveFunctions())),
       KindOf<LoadFunction<Input>, LoadHandler, Input>(
           std::get<LoadFunction<Input>>(info.GetLoadFunctions())),
+      Quoted(name != nullptr ? name : ""),
   };
 }
 

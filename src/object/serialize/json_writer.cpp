@@ -3,8 +3,10 @@
 #include <ryx/object/required.hpp>
 
 #include <cstddef>
+#include <cstring>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "object/detail/nesting_guard.hpp"
@@ -26,6 +28,32 @@ constexpr unsigned IndentLength = 4;
 constexpr int MaxDecimalPlaces = 324;
 
 using rapidjson::SizeType;
+
+// rapidjson's Writer or PrettyWriter, which also copies text already written
+// as JSON (member names, the registered type names) in one piece, after the
+// same separator and indentation as any other value.
+template <class Base, bool Pretty>
+class LiteralWriter : public Base {
+ public:
+  using Base::Base;
+
+  void Literal(std::string_view json, rapidjson::Type type) {
+    if constexpr (Pretty) {
+      this->PrettyPrefix(type);
+    } else {
+      this->Prefix(type);
+    }
+    // A literal is never the whole document, so nothing needs flushing.
+    this->os_->Write(json.data(), json.size());
+  }
+};
+
+using Ch = rapidjson::UTF8<>;
+using CompactWriter = LiteralWriter<
+    rapidjson::Writer<JsonText, Ch, Ch, JsonStackAllocator, rapidjson::kWriteDefaultFlags>, false>;
+using IndentedWriter = LiteralWriter<
+    rapidjson::PrettyWriter<JsonText, Ch, Ch, JsonStackAllocator, rapidjson::kWriteDefaultFlags>,
+    true>;
 
 template <class Writer>
 class DirectWriter {
@@ -106,7 +134,7 @@ class DirectWriter {
       return false;
     }
     Name("typename");
-    Text(record.name);
+    writer.Literal(record.json.quotedName, rapidjson::kStringType);
     return true;
   }
 
@@ -206,9 +234,14 @@ class DirectWriter {
     writer.EndObject();
   }
 
+  // Member names are plain ASCII: quoted, they are their JSON text.
   template <std::size_t Size>
   void Name(char const (&name)[Size]) {
-    writer.Key(name, Size - 1);
+    char quoted[Size + 1];
+    quoted[0] = '"';
+    std::memcpy(quoted + 1, name, Size - 1);
+    quoted[Size] = '"';
+    writer.Literal(std::string_view(quoted, Size + 1), rapidjson::kStringType);
   }
 
   // The archive hands the writer a 32-bit length.
@@ -232,15 +265,11 @@ bool WriteJson(Object const* value, JsonLayout layout, std::string& text) {
   JsonStackAllocator allocator;
   bool written = false;
   if (layout == JsonLayout::Indented) {
-    rapidjson::PrettyWriter<JsonText, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator,
-                            rapidjson::kWriteDefaultFlags>
-        writer(out, &allocator);
+    IndentedWriter writer(out, &allocator);
     writer.SetIndent(IndentChar, IndentLength);
     written = Write(value, writer);
   } else {
-    rapidjson::Writer<JsonText, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator,
-                      rapidjson::kWriteDefaultFlags>
-        writer(out, &allocator);
+    CompactWriter writer(out, &allocator);
     written = Write(value, writer);
   }
   if (written) {

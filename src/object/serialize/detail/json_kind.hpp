@@ -1,15 +1,16 @@
-// detail::JsonKind: which of the library's own kinds a registry record's JSON
-// save or load function belongs to.
+// detail::JsonRecord: what the direct JSON writer and reader need to know of a
+// registry record: which of the library's own kinds its JSON save and load
+// functions belong to, and its type name as JSON text.
 //
-// The direct JSON writer and reader handle a value themselves only when its
-// record holds the library's own function for the kind; `none` stands for a
-// record without the function, `other` for a function of someone else's,
-// which only the archive can run.
+// They handle a value themselves only when its record holds the library's own
+// function for the kind; `none` stands for a record without the function,
+// `other` for a function of someone else's, which only the archive can run.
 #pragma once
 
 #include <ryx/object/registry/info.hpp>
 
 #include <cstdint>
+#include <string>
 
 namespace ryx::object::detail {
 
@@ -35,11 +36,13 @@ enum class JsonKind : std::uint8_t {
   ConstPointer,
 };
 
-struct JsonKinds {
+struct JsonRecord {
   JsonKind save = JsonKind::none;
   JsonKind load = JsonKind::none;
+  // The type name as the writer writes a string: quoted and escaped.
+  std::string quotedName;
 };
 
-JsonKinds ClassifyJson(registry::Info const& info);
+JsonRecord MakeJsonRecord(registry::Info const& info);
 
 }  // namespace ryx::object::detail

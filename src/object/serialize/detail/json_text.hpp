@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <utility>
 
@@ -18,9 +19,25 @@ class JsonText {
 
   void Put(char c) {
     if (next == end) {
-      Grow();
+      Grow(1);
     }
     *next++ = c;
+  }
+
+  void Write(char const* bytes, std::size_t count) {
+    if (static_cast<std::size_t>(end - next) < count) {
+      Grow(count);
+    }
+    std::memcpy(next, bytes, count);
+    next += count;
+  }
+
+  void Fill(char c, std::size_t count) {
+    if (static_cast<std::size_t>(end - next) < count) {
+      Grow(count);
+    }
+    std::memset(next, c, count);
+    next += count;
   }
 
   void Flush() noexcept {}
@@ -39,9 +56,10 @@ class JsonText {
     return next != nullptr ? static_cast<std::size_t>(next - text.data()) : 0;
   }
 
-  void Grow() {
+  // Doubles the storage at least, so that writing n bytes costs O(n).
+  void Grow(std::size_t needed) {
     std::size_t const written = Written();
-    text.resize(std::max<std::size_t>(2 * text.size(), 4096));
+    text.resize(std::max({written + needed, 2 * text.size(), std::size_t(4096)}));
     next = text.data() + written;
     end = text.data() + text.size();
   }
@@ -50,5 +68,9 @@ class JsonText {
   char* next = nullptr;
   char* end = nullptr;
 };
+
+// rapidjson's writers repeat a character (indentation) through PutN, found
+// by argument-dependent lookup: one fill instead of a Put per character.
+inline void PutN(JsonText& stream, char c, std::size_t count) { stream.Fill(c, count); }
 
 }  // namespace ryx::object::detail
