@@ -58,7 +58,7 @@ CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id) {
     char const* const name = info.GetTypeName();
     cached = cache.entries
                  .emplace(id.GetValue(),
-                          CachedRecord{&info, name != nullptr ? name : "", MakeJsonRecord(info)})
+                          CachedRecord{&info, name != nullptr ? name : "", MakeDirectRecord(info)})
                  .first;
   }
   recent = Cache::Recent{id.GetValue(), &cached->second};

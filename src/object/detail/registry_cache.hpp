@@ -15,14 +15,14 @@
 
 #include <string>
 
-#include "object/serialize/detail/json_kind.hpp"
+#include "object/serialize/detail/direct_record.hpp"
 
 namespace ryx::object::detail {
 
 struct CachedRecord {
   registry::Info const* info;  // in the registry
   std::string name;            // the record's type name
-  JsonRecord json;
+  DirectRecord direct;
 };
 
 // The entry of `id` on this thread, or null when the id is not registered. The

@@ -18,73 +18,12 @@
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/json_allocator.hpp"
 #include "object/serialize/detail/kinds.hpp"
+#include "object/serialize/detail/loaded.hpp"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
-namespace ryx::object {
-
-namespace detail {
-
-// What the reader read for a container, an enumerator or a pointer, handed to
-// the value the way the archive's load hands it over.
-struct LoadedArray {
-  Required& required;
-  ArrayKind::Objects& objects;
-};
-
-struct LoadedDictionary {
-  DictionaryKind::Properties& properties;
-  Required& required;
-};
-
-struct LoadedEnum {
-  std::uint32_t type;
-  std::uint64_t value;
-};
-
-struct LoadedPointer {
-  std::uint32_t type;
-};
-
-}  // namespace detail
-
-template <>
-template <>
-void Array<Object>::Serialize(detail::LoadedArray& loaded) {
-  swap(required, loaded.required);
-  objects.swap(loaded.objects);
-}
-
-template <>
-template <>
-void Dictionary<Object>::Serialize(detail::LoadedDictionary& loaded) {
-  swap(required, loaded.required);
-  properties.swap(loaded.properties);
-}
-
-template <>
-template <>
-void Enum<Object>::Serialize(detail::LoadedEnum& loaded) {
-  type = hash::MurmurThree32(loaded.type);
-  value = loaded.value;
-}
-
-template <>
-template <>
-void Pointer<Object, void>::Serialize(detail::LoadedPointer& loaded) {
-  type = hash::MurmurThree32(loaded.type);
-  pointer.reset();
-}
-
-template <>
-template <>
-void Pointer<Object, void const>::Serialize(detail::LoadedPointer& loaded) {
-  type = hash::MurmurThree32(loaded.type);
-  pointer.reset();
-}
-
-namespace detail {
+namespace ryx::object::detail {
 
 namespace {
 
@@ -129,7 +68,7 @@ class Builder {
         top.step = Step::EntryEnd;
         return PushValue();
       case Step::Required:
-        top.step = top.kind == JsonKind::Array ? Step::ObjectsKey : Step::End;
+        top.step = top.kind == LibraryKind::Array ? Step::ObjectsKey : Step::End;
         return PushSchema();
       case Step::ChildTypes:
         return PushSchema();
@@ -223,7 +162,7 @@ class Builder {
         return Expect(top, text, length, "typename", Step::TypenameValue);
       case Step::ValueKey:
         return Expect(top, text, length, "value",
-                      top.kind == JsonKind::Enum ? Step::EnumValue : Step::Value);
+                      top.kind == LibraryKind::Enum ? Step::EnumValue : Step::Value);
       case Step::TypeKey:
         return Expect(top, text, length, "type", Step::Type);
       case Step::RequiredKey:
@@ -256,7 +195,7 @@ class Builder {
       case Step::TypenameValue:
         return TypeRecord(top, std::string_view(text, UpToNul(text, length)));
       case Step::Value:
-        if (top.kind != JsonKind::String) {
+        if (top.kind != LibraryKind::String) {
           return false;
         }
         static_cast<object::String&>(*top.made).Set(std::string(text, UpToNul(text, length)));
@@ -322,10 +261,11 @@ class Builder {
     explicit Frame(Step step) noexcept : step(step) {}
 
     Step step;
-    JsonKind kind = JsonKind::none;
+    LibraryKind kind = LibraryKind::none;
     std::uint32_t number = 0;  // a schema's, enumerator's or pointer's type
     std::size_t mark = 0;      // where its children start on their stack
     std::shared_ptr<Object> made;
+    registry::Info const* info = nullptr;  // a dictionary's, made last
   };
 
   template <std::size_t Size>
@@ -369,12 +309,19 @@ class Builder {
       top.step = Step::Skip;
       return true;
     }
-    JsonKind const kind = record->json.load;
-    if (kind == JsonKind::other) {
+    LibraryKind const kind = record->direct.jsonLoad;
+    if (kind == LibraryKind::other) {
       return false;
     }
+    if (kind == LibraryKind::Dictionary) {
+      // Made after its entries, as the binary reader makes it (see there).
+      top.info = info;
+      top.kind = kind;
+      top.step = Step::PropertiesKey;
+      return true;
+    }
     std::shared_ptr<Object> made = info->GetConstructFunction()();
-    if (made == nullptr || kind == JsonKind::none) {
+    if (made == nullptr || kind == LibraryKind::none) {
       top.step = Step::Skip;
       return true;
     }
@@ -382,15 +329,12 @@ class Builder {
     top.made = std::move(made);
     top.kind = kind;
     switch (kind) {
-      case JsonKind::Array:
+      case LibraryKind::Array:
         top.step = Step::RequiredKey;
         break;
-      case JsonKind::Dictionary:
-        top.step = Step::PropertiesKey;
-        break;
-      case JsonKind::Enum:
-      case JsonKind::Pointer:
-      case JsonKind::ConstPointer:
+      case LibraryKind::Enum:
+      case LibraryKind::Pointer:
+      case LibraryKind::ConstPointer:
         top.step = Step::TypeKey;
         break;
       default:
@@ -419,11 +363,11 @@ class Builder {
           return false;
         }
         top.number = value.GetUint();
-        if (top.kind == JsonKind::Enum) {
+        if (top.kind == LibraryKind::Enum) {
           top.step = Step::ValueKey;
         } else {
           LoadedPointer loaded{top.number};
-          if (top.kind == JsonKind::Pointer) {
+          if (top.kind == LibraryKind::Pointer) {
             static_cast<PointerKind&>(*top.made).Serialize(loaded);
           } else {
             static_cast<ConstPointerKind&>(*top.made).Serialize(loaded);
@@ -457,27 +401,27 @@ class Builder {
   static bool SetPrimitive(Frame const& top, rapidjson::Value const& value) {
     Object& made = *top.made;
     switch (top.kind) {
-      case JsonKind::Bool:
+      case LibraryKind::Bool:
         return value.IsBool() && Set<object::Bool>(made, value.GetBool());
-      case JsonKind::Int8:
+      case LibraryKind::Int8:
         return value.IsInt() && Set<object::Int8>(made, value.GetInt());
-      case JsonKind::Int16:
+      case LibraryKind::Int16:
         return value.IsInt() && Set<object::Int16>(made, value.GetInt());
-      case JsonKind::Int32:
+      case LibraryKind::Int32:
         return value.IsInt() && Set<object::Int32>(made, value.GetInt());
-      case JsonKind::Int64:
+      case LibraryKind::Int64:
         return value.IsInt64() && Set<object::Int64>(made, value.GetInt64());
-      case JsonKind::UInt8:
+      case LibraryKind::UInt8:
         return value.IsUint() && Set<object::UInt8>(made, value.GetUint());
-      case JsonKind::UInt16:
+      case LibraryKind::UInt16:
         return value.IsUint() && Set<object::UInt16>(made, value.GetUint());
-      case JsonKind::UInt32:
+      case LibraryKind::UInt32:
         return value.IsUint() && Set<object::UInt32>(made, value.GetUint());
-      case JsonKind::UInt64:
+      case LibraryKind::UInt64:
         return value.IsUint64() && Set<object::UInt64>(made, value.GetUint64());
-      case JsonKind::Float:
+      case LibraryKind::Float:
         return value.IsNumber() && Set<object::Float>(made, value.GetDouble());
-      case JsonKind::Double:
+      case LibraryKind::Double:
         return value.IsNumber() && Set<object::Double>(made, value.GetDouble());
       default:
         return false;
@@ -496,12 +440,20 @@ class Builder {
   bool FinishValue() {
     Frame& top = frames.back();
     std::shared_ptr<Object> value = std::move(top.made);
-    if (value != nullptr) {
-      if (top.kind == JsonKind::Array) {
-        FillArray(static_cast<ArrayKind&>(*value), top.mark);
-      } else if (top.kind == JsonKind::Dictionary) {
+    if (top.info != nullptr && top.step == Step::End) {
+      // A construct function giving null: the archive would not have read on.
+      value = top.info->GetConstructFunction()();
+      if (value != nullptr) {
+        value->GetOptions().Set(Option::deserializing);
         FillDictionary(static_cast<DictionaryKind&>(*value), top.mark);
+      } else {
+        entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(top.mark), entries.end());
+        schemas.pop_back();
       }
+    } else if (value != nullptr && top.kind == LibraryKind::Array) {
+      FillArray(static_cast<ArrayKind&>(*value), top.mark);
+    }
+    if (value != nullptr) {
       value->GetOptions().Clear(Option::deserializing);
     }
     frames.pop_back();
@@ -594,6 +546,4 @@ bool ReadJson(std::string_view document, std::shared_ptr<Object>& value) {
   return true;
 }
 
-}  // namespace detail
-
-}  // namespace ryx::object
+}  // namespace ryx::object::detail

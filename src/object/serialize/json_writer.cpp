@@ -14,7 +14,7 @@
 #include "object/detail/registry_cache.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/json_allocator.hpp"
-#include "object/serialize/detail/json_text.hpp"
+#include "object/serialize/detail/string_output.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
@@ -50,10 +50,12 @@ class LiteralWriter : public Base {
 
 using Ch = rapidjson::UTF8<>;
 using CompactWriter = LiteralWriter<
-    rapidjson::Writer<JsonText, Ch, Ch, JsonStackAllocator, rapidjson::kWriteDefaultFlags>, false>;
-using IndentedWriter = LiteralWriter<
-    rapidjson::PrettyWriter<JsonText, Ch, Ch, JsonStackAllocator, rapidjson::kWriteDefaultFlags>,
-    true>;
+    rapidjson::Writer<StringOutput, Ch, Ch, JsonStackAllocator, rapidjson::kWriteDefaultFlags>,
+    false>;
+using IndentedWriter =
+    LiteralWriter<rapidjson::PrettyWriter<StringOutput, Ch, Ch, JsonStackAllocator,
+                                          rapidjson::kWriteDefaultFlags>,
+                  true>;
 
 template <class Writer>
 class DirectWriter {
@@ -83,44 +85,44 @@ class DirectWriter {
     if (record == nullptr) {
       ThrowNotRegistered(*value);
     }
-    switch (record->json.save) {
-      case JsonKind::none:
+    switch (record->direct.jsonSave) {
+      case LibraryKind::none:
         throw std::runtime_error("No serialization function available: " + record->name);
-      case JsonKind::other:
+      case LibraryKind::other:
         return false;
-      case JsonKind::Bool:
+      case LibraryKind::Bool:
         return WritePrimitive<Bool>(*value, *record);
-      case JsonKind::Int8:
+      case LibraryKind::Int8:
         return WritePrimitive<Int8>(*value, *record);
-      case JsonKind::Int16:
+      case LibraryKind::Int16:
         return WritePrimitive<Int16>(*value, *record);
-      case JsonKind::Int32:
+      case LibraryKind::Int32:
         return WritePrimitive<Int32>(*value, *record);
-      case JsonKind::Int64:
+      case LibraryKind::Int64:
         return WritePrimitive<Int64>(*value, *record);
-      case JsonKind::UInt8:
+      case LibraryKind::UInt8:
         return WritePrimitive<UInt8>(*value, *record);
-      case JsonKind::UInt16:
+      case LibraryKind::UInt16:
         return WritePrimitive<UInt16>(*value, *record);
-      case JsonKind::UInt32:
+      case LibraryKind::UInt32:
         return WritePrimitive<UInt32>(*value, *record);
-      case JsonKind::UInt64:
+      case LibraryKind::UInt64:
         return WritePrimitive<UInt64>(*value, *record);
-      case JsonKind::Float:
+      case LibraryKind::Float:
         return WritePrimitive<Float>(*value, *record);
-      case JsonKind::Double:
+      case LibraryKind::Double:
         return WritePrimitive<Double>(*value, *record);
-      case JsonKind::String:
+      case LibraryKind::String:
         return WritePrimitive<String>(*value, *record);
-      case JsonKind::Array:
+      case LibraryKind::Array:
         return WriteKind<ArrayKind>(*value, *record);
-      case JsonKind::Dictionary:
+      case LibraryKind::Dictionary:
         return WriteKind<DictionaryKind>(*value, *record);
-      case JsonKind::Enum:
+      case LibraryKind::Enum:
         return WriteKind<EnumKind>(*value, *record);
-      case JsonKind::Pointer:
+      case LibraryKind::Pointer:
         return WriteKind<PointerKind>(*value, *record);
-      case JsonKind::ConstPointer:
+      case LibraryKind::ConstPointer:
         return WriteKind<ConstPointerKind>(*value, *record);
     }
     return false;
@@ -134,7 +136,7 @@ class DirectWriter {
       return false;
     }
     Name("typename");
-    writer.Literal(record.json.quotedName, rapidjson::kStringType);
+    writer.Literal(record.direct.quotedName, rapidjson::kStringType);
     return true;
   }
 
@@ -261,7 +263,7 @@ bool Write(Object const* value, Writer& writer) {
 }  // namespace
 
 bool WriteJson(Object const* value, JsonLayout layout, std::string& text) {
-  JsonText out;
+  StringOutput out;
   JsonStackAllocator allocator;
   bool written = false;
   if (layout == JsonLayout::Indented) {

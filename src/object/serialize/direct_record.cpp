@@ -1,7 +1,8 @@
-#include "object/serialize/detail/json_kind.hpp"
+#include "object/serialize/detail/direct_record.hpp"
 
 #include <cstring>
 #include <tuple>
+#include <utility>
 
 #include "object/serialize/detail/handlers.hpp"
 
@@ -13,18 +14,18 @@ namespace ryx::object::detail {
 namespace {
 
 template <class Function, template <class, class> class Handler, class Archive>
-JsonKind KindOf(Function const& function) {
+LibraryKind KindOf(Function const& function) {
   if (!function) {
-    return JsonKind::none;
+    return LibraryKind::none;
   }
-  JsonKind kind = JsonKind::other;
-  auto const match = [&](auto tag, JsonKind candidate) {
+  LibraryKind kind = LibraryKind::other;
+  auto const match = [&](auto tag, LibraryKind candidate) {
     using Kind = typename decltype(tag)::type;
     if (function.template target<Handler<Kind, Archive>>() != nullptr) {
       kind = candidate;
     }
   };
-#define RYX_OBJECT_DETAIL_MATCH(Type, Name) match(std::common_type<Type>(), JsonKind::Name);
+#define RYX_OBJECT_DETAIL_MATCH(Type, Name) match(std::common_type<Type>(), LibraryKind::Name);
   RYX_OBJECT_DETAIL_MATCH(Bool, Bool)
   RYX_OBJECT_DETAIL_MATCH(Int8, Int8)
   RYX_OBJECT_DETAIL_MATCH(Int16, Int16)
@@ -54,19 +55,24 @@ std::string Quoted(char const* name) {
   return std::string(quoted.GetString(), quoted.GetSize());
 }
 
+template <class Output, class Input>
+std::pair<LibraryKind, LibraryKind> KindsOf(registry::Info const& info) {
+  return {KindOf<SaveFunction<Output>, SaveHandler, Output>(
+              std::get<SaveFunction<Output>>(info.GetSaveFunctions())),
+          KindOf<LoadFunction<Input>, LoadHandler, Input>(
+              std::get<LoadFunction<Input>>(info.GetLoadFunctions()))};
+}
+
 }  // namespace
 
-JsonRecord MakeJsonRecord(registry::Info const& info) {
-  using Output = cereal::JSONOutputArchive;
-  using Input = cereal::JSONInputArchive;
+DirectRecord MakeDirectRecord(registry::Info const& info) {
+  auto const [jsonSave, jsonLoad] =
+      KindsOf<cereal::JSONOutputArchive, cereal::JSONInputArchive>(info);
+  auto const [binarySave, binaryLoad] =
+      KindsOf<cereal::PortableBinaryOutputArchive, cereal::PortableBinaryInputArchive>(info);
   char const* const name = info.GetTypeName();
-  return JsonRecord{
-      KindOf<SaveFunction<Output>, SaveHandler, Output>(
-          std::get<SaveFunction<Output>>(info.GetSaveFunctions())),
-      KindOf<LoadFunction<Input>, LoadHandler, Input>(
-          std::get<LoadFunction<Input>>(info.GetLoadFunctions())),
-      Quoted(name != nullptr ? name : ""),
-  };
+  return DirectRecord{jsonSave, jsonLoad, binarySave, binaryLoad,
+                      Quoted(name != nullptr ? name : "")};
 }
 
 }  // namespace ryx::object::detail

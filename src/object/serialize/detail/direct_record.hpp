@@ -1,6 +1,7 @@
-// detail::JsonRecord: what the direct JSON writer and reader need to know of a
-// registry record: which of the library's own kinds its JSON save and load
-// functions belong to, and its type name as JSON text.
+// detail::DirectRecord: what the direct writers and readers (of the JSON and
+// the binary form) need to know of a registry record: which of the library's
+// own kinds its save and load functions for those forms belong to, and its
+// type name as JSON text.
 //
 // They handle a value themselves only when its record holds the library's own
 // function for the kind; `none` stands for a record without the function,
@@ -14,7 +15,7 @@
 
 namespace ryx::object::detail {
 
-enum class JsonKind : std::uint8_t {
+enum class LibraryKind : std::uint8_t {
   none,
   other,
   Bool,
@@ -36,13 +37,15 @@ enum class JsonKind : std::uint8_t {
   ConstPointer,
 };
 
-struct JsonRecord {
-  JsonKind save = JsonKind::none;
-  JsonKind load = JsonKind::none;
+struct DirectRecord {
+  LibraryKind jsonSave = LibraryKind::none;
+  LibraryKind jsonLoad = LibraryKind::none;
+  LibraryKind binarySave = LibraryKind::none;
+  LibraryKind binaryLoad = LibraryKind::none;
   // The type name as the writer writes a string: quoted and escaped.
   std::string quotedName;
 };
 
-JsonRecord MakeJsonRecord(registry::Info const& info);
+DirectRecord MakeDirectRecord(registry::Info const& info);
 
 }  // namespace ryx::object::detail

@@ -1,5 +1,6 @@
-// ToJson and FromJson against the archive path they must match: the same
-// bytes in both layouts, the same values and the same errors.
+// ToJson, FromJson, ToBinary and FromBinary against the archive path they
+// must match: the same bytes (in both JSON layouts), the same values and the
+// same errors.
 #include "serialize/box.hpp"
 
 #include <gtest/gtest.h>
@@ -15,8 +16,7 @@ using namespace ryx::object;
 
 // What a reader makes of a document: the value as the archive saves it, or
 // the error.
-std::string Outcome(std::shared_ptr<Object> (*read)(std::string_view),
-                    std::string const& document) {
+std::string Outcome(std::shared_ptr<Object> (*read)(std::string_view), std::string_view document) {
   try {
     return ToJsonThroughArchive(read(document));
   } catch (std::exception const& error) {
@@ -28,13 +28,22 @@ void ExpectSameOutcome(std::string const& document) {
   EXPECT_EQ(Outcome(FromJson, document), Outcome(FromJsonThroughArchive, document)) << document;
 }
 
-class JsonPaths : public ::testing::Test {
+// Every prefix of the stream too: a stream cut anywhere must fail alike.
+void ExpectSameBinaryOutcome(std::string const& bytes) {
+  for (std::size_t size = 0; size <= bytes.size(); ++size) {
+    std::string_view const prefix(bytes.data(), size);
+    ASSERT_EQ(Outcome(FromBinary, prefix), Outcome(FromBinaryThroughArchive, prefix))
+        << size << " of " << bytes.size() << " bytes";
+  }
+}
+
+class DirectPaths : public ::testing::Test {
  protected:
   void SetUp() override { test::RegisterBox(); }
   void TearDown() override { SetNestingLimit(DefaultNestingLimit); }
 };
 
-TEST_F(JsonPaths, WriteAndReadEveryValueAsTheArchiveDoesInBothLayouts) {
+TEST_F(DirectPaths, WriteAndReadEveryValueAsTheArchiveDoes) {
   std::string everyByte;
   for (int byte = 0; byte != 256; ++byte) {
     everyByte += static_cast<char>(byte);
@@ -63,12 +72,15 @@ TEST_F(JsonPaths, WriteAndReadEveryValueAsTheArchiveDoesInBothLayouts) {
     EXPECT_EQ(ToJson(value, JsonLayout::Compact), compact);
     ExpectSameOutcome(indented);
     ExpectSameOutcome(compact);
+    std::string const bytes = ToBinaryThroughArchive(value);
+    EXPECT_EQ(ToBinary(value), bytes);
+    ExpectSameBinaryOutcome(bytes);
   }
   EXPECT_EQ(ToJson(std::make_shared<Int32>(7), JsonLayout::Compact),
             R"({"typename":"ryx.object.Int32","value":7})");
 }
 
-TEST_F(JsonPaths, ReadEveryDocumentAsTheArchiveDoes) {
+TEST_F(DirectPaths, ReadEveryJsonDocumentAsTheArchiveDoes) {
   auto const value = [](char const* type, std::string const& json) {
     return std::string(R"({"typename":")") + type + R"(","value":)" + json + "}";
   };
@@ -147,6 +159,30 @@ TEST_F(JsonPaths, ReadEveryDocumentAsTheArchiveDoes) {
   SetNestingLimit(2);
   ExpectSameOutcome(R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[)"
                     R"({"type":0,"child_types":[{"type":0,"child_types":[]}]}]},"objects":[]})");
+}
+
+TEST_F(DirectPaths, ReadEveryBinaryStreamAsTheArchiveDoes) {
+  using test::Bytes;
+  using test::Id;
+  std::string const int32 = Id("ryx.object.Int32");
+  for (std::string const& stream : {
+           std::string(1, '\0') + int32 + Bytes(std::int32_t{7}),  // the other byte order
+           test::Little + Id("ryx.object.Bool") + "\x02",
+           test::Little + Bytes(std::uint32_t{12345}),  // no such type
+           test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
+               Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{2}) + Bytes(std::uint32_t{0}) +
+               Id(test::BoxName) + int32 + Bytes(std::int32_t{1}),
+           test::Little + Id("ryx.object.String") + Bytes(std::uint64_t{1} << 62) + "abc",
+           test::Little + int32 + Bytes(std::int32_t{7}) + "trailing bytes",
+       }) {
+    ExpectSameBinaryOutcome(stream);
+  }
+  SetNestingLimit(2);
+  ExpectSameBinaryOutcome(ToBinaryThroughArchive(test::MakeBoxes(0)));
+  ExpectSameBinaryOutcome(test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
+                          Bytes(std::uint64_t{1}) + Bytes(std::uint32_t{0}) +
+                          Bytes(std::uint64_t{1}) + Bytes(std::uint32_t{0}) +
+                          Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{0}));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
-// detail::JsonText: rapidjson's output stream concept over the std::string
-// that ToJson returns, so that the text is written in place, once.
+// detail::StringOutput: bytes written straight into the std::string that the
+// direct writers return, so that the text is written in place, once. It is
+// also rapidjson's output stream concept (Put, Flush, and PutN below).
 //
 // The string grows by doubling; a failed growth throws std::bad_alloc and
 // leaves what was written so far.
@@ -13,7 +14,7 @@
 
 namespace ryx::object::detail {
 
-class JsonText {
+class StringOutput {
  public:
   using Ch = char;
 
@@ -71,6 +72,6 @@ class JsonText {
 
 // rapidjson's writers repeat a character (indentation) through PutN, found
 // by argument-dependent lookup: one fill instead of a Put per character.
-inline void PutN(JsonText& stream, char c, std::size_t count) { stream.Fill(c, count); }
+inline void PutN(StringOutput& stream, char c, std::size_t count) { stream.Fill(c, count); }
 
 }  // namespace ryx::object::detail
