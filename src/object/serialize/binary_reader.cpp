@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "object/detail/nesting_guard.hpp"
-#include "object/detail/registry_cache.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/loaded.hpp"
 #include "object/serialize/detail/native_order.hpp"
+#include "object/serialize/detail/record_memo.hpp"
 
 namespace ryx::object::detail {
 
@@ -35,7 +35,7 @@ class BinaryReader {
     if (!Number(id)) {
       return false;
     }
-    CachedRecord const* const record = FindCachedRecord(hash::MurmurThree32(id));
+    RecordMemo::Entry const* const record = records.Find(hash::MurmurThree32(id));
     registry::Info const* const info = record != nullptr ? record->info : nullptr;
     if (info == nullptr || !info->GetConstructFunction()) {
       // Only the null id loads as nothing; the archive refuses the others.
@@ -259,6 +259,7 @@ class BinaryReader {
   char const* const end;
   // Entries read for the dictionaries being loaded, innermost last.
   std::vector<std::pair<std::string, std::shared_ptr<Object>>> entries;
+  RecordMemo records;
 };
 
 }  // namespace

@@ -10,9 +10,9 @@
 
 #include "object/detail/nesting_guard.hpp"
 #include "object/detail/prefetch.hpp"
-#include "object/detail/registry_cache.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/native_order.hpp"
+#include "object/serialize/detail/record_memo.hpp"
 #include "object/serialize/detail/string_output.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
@@ -31,7 +31,7 @@ class BinaryWriter {
       Number(std::uint32_t(0));
       return true;
     }
-    CachedRecord const* const record = FindCachedRecord(value->GetType());
+    RecordMemo::Entry const* const record = records.Find(value->GetType());
     if (record == nullptr) {
       ThrowNotRegistered(*value);
     }
@@ -160,6 +160,7 @@ class BinaryWriter {
   }
 
   StringOutput& out;
+  RecordMemo records;
 };
 
 }  // namespace

@@ -4,8 +4,6 @@
 #include <ryx/object/option.hpp>
 #include <ryx/object/required.hpp>
 
-#include <boost/utility/string_view.hpp>
-
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -14,11 +12,11 @@
 #include <utility>
 #include <vector>
 
-#include "object/detail/registry_cache.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/json_allocator.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/loaded.hpp"
+#include "object/serialize/detail/record_memo.hpp"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
@@ -302,8 +300,7 @@ class Builder {
   // function, a construct function giving null or a type without a JSON load
   // function make the value null, and the rest of its node goes unread.
   bool TypeRecord(Frame& top, std::string_view name) {
-    CachedRecord const* const record = FindCachedRecord(
-        hash::MurmurThree32::MakeData(boost::string_view(name.data(), name.size())));
+    RecordMemo::Entry const* const record = records.FindNamed(name);
     registry::Info const* const info = record != nullptr ? record->info : nullptr;
     if (info == nullptr || !info->GetConstructFunction()) {
       top.step = Step::Skip;
@@ -524,6 +521,7 @@ class Builder {
   std::size_t skipped = 0;  // levels open inside a node that goes unread
   std::shared_ptr<Object> root;
   bool done = false;
+  RecordMemo records;
 };
 
 }  // namespace

@@ -11,11 +11,11 @@
 
 #include "object/detail/nesting_guard.hpp"
 #include "object/detail/prefetch.hpp"
-#include "object/detail/registry_cache.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/json_allocator.hpp"
 #include "object/serialize/detail/string_output.hpp"
 #include "object/serialize/detail/kinds.hpp"
+#include "object/serialize/detail/record_memo.hpp"
 #include "object/serialize/detail/type_record.hpp"
 
 namespace ryx::object::detail {
@@ -81,7 +81,7 @@ class DirectWriter {
       writer.String("", 0);
       return true;
     }
-    CachedRecord const* const record = FindCachedRecord(value->GetType());
+    RecordMemo::Entry const* const record = records.Find(value->GetType());
     if (record == nullptr) {
       ThrowNotRegistered(*value);
     }
@@ -131,7 +131,7 @@ class DirectWriter {
   // The type record; false when the record's function is of another kind
   // than the value (its checked cast would throw in the archive).
   template <class T>
-  [[nodiscard]] bool TypeRecord(Object const& value, CachedRecord const& record) {
+  [[nodiscard]] bool TypeRecord(Object const& value, RecordMemo::Entry const& record) {
     if (!value.Is<T>()) {
       return false;
     }
@@ -141,7 +141,7 @@ class DirectWriter {
   }
 
   template <class T>
-  [[nodiscard]] bool WritePrimitive(Object const& value, CachedRecord const& record) {
+  [[nodiscard]] bool WritePrimitive(Object const& value, RecordMemo::Entry const& record) {
     if (!TypeRecord<T>(value, record)) {
       return false;
     }
@@ -165,7 +165,7 @@ class DirectWriter {
   void Scalar(std::string const& value) { Text(value); }
 
   template <class T>
-  [[nodiscard]] bool WriteKind(Object const& value, CachedRecord const& record) {
+  [[nodiscard]] bool WriteKind(Object const& value, RecordMemo::Entry const& record) {
     if (!TypeRecord<T>(value, record)) {
       return false;
     }
@@ -252,6 +252,7 @@ class DirectWriter {
   }
 
   Writer& writer;
+  RecordMemo records;
 };
 
 template <class Writer>
