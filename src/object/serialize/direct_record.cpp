@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/json_allocator.hpp"
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
@@ -49,8 +50,11 @@ LibraryKind KindOf(Function const& function) {
 
 // Escaped by rapidjson's own writer, exactly as the archive escapes it.
 std::string Quoted(char const* name) {
-  rapidjson::StringBuffer quoted;
-  rapidjson::Writer<rapidjson::StringBuffer> writer(quoted);
+  using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, JsonStackAllocator>;
+  JsonStackAllocator allocator;
+  Buffer quoted(&allocator);
+  rapidjson::Writer<Buffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator> writer(
+      quoted, &allocator);
   writer.String(name, static_cast<rapidjson::SizeType>(std::strlen(name)));
   return std::string(quoted.GetString(), quoted.GetSize());
 }
