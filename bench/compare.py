@@ -36,8 +36,15 @@ def main(argv):
     context, runs = load(argv[1])
     others = [(spec.split("=", 1)[0], load(spec.split("=", 1)[1])[1]) for spec in argv[2:]]
 
-    print(f"Run of {context['date']} on {context['host_name']}: {context['num_cpus']} CPUs "
-          f"at {context['mhz_per_cpu']} MHz, load average "
+    model = "unknown processor"
+    try:
+        with open("/proc/cpuinfo") as f:
+            model = next(line.split(":", 1)[1].strip() for line in f
+                         if line.startswith("model name"))
+    except (OSError, StopIteration):
+        pass
+    print(f"Run of {context['date']} on {context['host_name']} ({model}): "
+          f"{context['num_cpus']} CPUs at {context['mhz_per_cpu']} MHz, load average "
           f"{', '.join(f'{x:.2f}' for x in context.get('load_avg', []))}")
     print("Figures: best of the repetitions, CPU time per record of "
           "the 200,000-record document.\n")
