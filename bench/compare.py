@@ -34,7 +34,7 @@ def text_bytes(run):
 
 def main(argv):
     context, runs = load(argv[1])
-    others = [(spec.split("=", 1)[0], load(spec.split("=", 1)[1])[1]) for spec in argv[2:]]
+    others = [(arg.split("=", 1)[0], load(arg.split("=", 1)[1])[1]) for arg in argv[2:]]
 
     model = "unknown processor"
     try:
