@@ -1,7 +1,11 @@
-// The floors and yardsticks of the serialization benchmarks, on the same
-// records as plain C++ structs: cereal's own JSON and portable binary archives,
-// nlohmann::json and rapidjson. Each reports MB/s of its own text.
-#include "serialize_records.hpp"
+// The yardsticks of the serialization benchmarks, run in the same program as
+// the library's forms. On the same records as plain C++ structs: cereal's own
+// JSON and portable binary archives, nlohmann::json (dump and parse of plain
+// JSON, and its CBOR) and rapidjson. On the library's own texts: rapidjson
+// parsing them into a DOM and writing them back from it, the parser's and the
+// writer's floors on those bytes. Each reports MB/s of its own text and the
+// time per record.
+#include "serialize_document.hpp"
 
 // The library's JSON header configures rapidjson (its failed checks throw); it
 // comes first so that every user of rapidjson in this program sees the same.
@@ -11,17 +15,18 @@
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>
 #include <rapidjson/document.h>
+#include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <cstdint>
 #include <sstream>
 #include <string>
 #include <vector>
 
-namespace {
+namespace ryx::bench {
 
-using ryx::bench::MakeRecords;
-using ryx::bench::Record;
+namespace {
 
 std::vector<Record> const& Records() {
   static std::vector<Record> const records = MakeRecords();
@@ -47,137 +52,142 @@ std::vector<Record> CerealLoad(std::string const& text) {
   return records;
 }
 
-template <class OutputArchive>
-void CerealSaveBenchmark(benchmark::State& state) {
-  // Built, and saved once, before the clock starts (see reused_memory.cpp).
-  std::vector<Record> const& records = Records();
-  benchmark::DoNotOptimize(CerealSave<OutputArchive>(records).size());
-  std::size_t bytes = 0;
+// Runs `make` (which returns the bytes written, in a std::string or a
+// std::vector) once untimed, then timed.
+template <class Make>
+void Writing(benchmark::State& state, Make make) {
+  std::size_t const bytes = make().size();
   for (auto _ : state) {
-    std::string const text = CerealSave<OutputArchive>(records);
-    bytes += text.size();
+    auto const text = make();
     benchmark::DoNotOptimize(text.data());
   }
-  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+  Report(state, bytes);
 }
 
-template <class OutputArchive, class InputArchive>
-void CerealLoadBenchmark(benchmark::State& state) {
-  std::string const text = CerealSave<OutputArchive>(Records());
-  benchmark::DoNotOptimize(CerealLoad<InputArchive>(text).size());
+// Runs `read` over `text` once untimed, then timed.
+template <class Read>
+void Reading(benchmark::State& state, std::string const& text, Read read) {
+  read(text);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(CerealLoad<InputArchive>(text).size());
+    read(text);
   }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+  Report(state, text.size());
 }
 
 void CerealJsonSave(benchmark::State& state) {
-  CerealSaveBenchmark<cereal::JSONOutputArchive>(state);
+  Writing(state, [] { return CerealSave<cereal::JSONOutputArchive>(Records()); });
 }
-BENCHMARK(CerealJsonSave)->Unit(benchmark::kMillisecond);
-
 void CerealJsonLoad(benchmark::State& state) {
-  CerealLoadBenchmark<cereal::JSONOutputArchive, cereal::JSONInputArchive>(state);
+  Reading(state, CerealSave<cereal::JSONOutputArchive>(Records()), [](std::string const& text) {
+    benchmark::DoNotOptimize(CerealLoad<cereal::JSONInputArchive>(text).size());
+  });
 }
-BENCHMARK(CerealJsonLoad)->Unit(benchmark::kMillisecond);
-
 void CerealBinarySave(benchmark::State& state) {
-  CerealSaveBenchmark<cereal::PortableBinaryOutputArchive>(state);
+  Writing(state, [] { return CerealSave<cereal::PortableBinaryOutputArchive>(Records()); });
 }
-BENCHMARK(CerealBinarySave)->Unit(benchmark::kMillisecond);
-
 void CerealBinaryLoad(benchmark::State& state) {
-  CerealLoadBenchmark<cereal::PortableBinaryOutputArchive, cereal::PortableBinaryInputArchive>(state);
+  Reading(state, CerealSave<cereal::PortableBinaryOutputArchive>(Records()),
+          [](std::string const& text) {
+            benchmark::DoNotOptimize(CerealLoad<cereal::PortableBinaryInputArchive>(text).size());
+          });
 }
-BENCHMARK(CerealBinaryLoad)->Unit(benchmark::kMillisecond);
+BENCHMARK(CerealJsonSave)->Name("Cereal/JsonSave")->Unit(benchmark::kMillisecond);
+BENCHMARK(CerealJsonLoad)->Name("Cereal/JsonLoad")->Unit(benchmark::kMillisecond);
+BENCHMARK(CerealBinarySave)->Name("Cereal/BinarySave")->Unit(benchmark::kMillisecond);
+BENCHMARK(CerealBinaryLoad)->Name("Cereal/BinaryLoad")->Unit(benchmark::kMillisecond);
 
-nlohmann::json ToNlohmann(std::vector<Record> const& records) {
-  nlohmann::json array = nlohmann::json::array();
-  for (Record const& record : records) {
-    array.push_back({{"id", record.id},
-                     {"name", record.name},
-                     {"score", record.score},
-                     {"flag", record.flag},
-                     {"tags", record.tags}});
-  }
-  return array;
+// The records as plain JSON, with the same members.
+nlohmann::json const& NlohmannDocument() {
+  static nlohmann::json const document = [] {
+    nlohmann::json array = nlohmann::json::array();
+    for (Record const& record : Records()) {
+      array.push_back({{"id", record.id},
+                       {"name", record.name},
+                       {"score", record.score},
+                       {"flag", record.flag},
+                       {"tags", record.tags}});
+    }
+    return array;
+  }();
+  return document;
 }
 
 void NlohmannDump(benchmark::State& state) {
-  nlohmann::json const document = ToNlohmann(Records());
-  benchmark::DoNotOptimize(document.dump().size());
-  std::size_t bytes = 0;
-  for (auto _ : state) {
-    std::string const text = document.dump();
-    bytes += text.size();
-    benchmark::DoNotOptimize(text.data());
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+  Writing(state, [] { return NlohmannDocument().dump(); });
 }
-BENCHMARK(NlohmannDump)->Unit(benchmark::kMillisecond);
-
 void NlohmannParse(benchmark::State& state) {
-  std::string const text = ToNlohmann(Records()).dump();
-  benchmark::DoNotOptimize(nlohmann::json::parse(text).size());
-  for (auto _ : state) {
+  Reading(state, NlohmannDocument().dump(), [](std::string const& text) {
     benchmark::DoNotOptimize(nlohmann::json::parse(text).size());
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+  });
 }
-BENCHMARK(NlohmannParse)->Unit(benchmark::kMillisecond);
+void NlohmannToCbor(benchmark::State& state) {
+  Writing(state, [] { return nlohmann::json::to_cbor(NlohmannDocument()); });
+}
+void NlohmannFromCbor(benchmark::State& state) {
+  std::vector<std::uint8_t> const bytes = nlohmann::json::to_cbor(NlohmannDocument());
+  Reading(state, std::string(bytes.begin(), bytes.end()), [](std::string const& text) {
+    benchmark::DoNotOptimize(nlohmann::json::from_cbor(text).size());
+  });
+}
+BENCHMARK(NlohmannDump)->Name("Nlohmann/Dump")->Unit(benchmark::kMillisecond);
+BENCHMARK(NlohmannParse)->Name("Nlohmann/Parse")->Unit(benchmark::kMillisecond);
+BENCHMARK(NlohmannToCbor)->Name("Nlohmann/ToCbor")->Unit(benchmark::kMillisecond);
+BENCHMARK(NlohmannFromCbor)->Name("Nlohmann/FromCbor")->Unit(benchmark::kMillisecond);
 
-std::string RapidJsonWrite(std::vector<Record> const& records) {
-  rapidjson::StringBuffer buffer;
-  rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
-  writer.StartArray();
-  for (Record const& record : records) {
-    writer.StartObject();
-    writer.Key("id");
-    writer.Int(record.id);
-    writer.Key("name");
-    writer.String(record.name.c_str(), static_cast<rapidjson::SizeType>(record.name.size()));
-    writer.Key("score");
-    writer.Double(record.score);
-    writer.Key("flag");
-    writer.Bool(record.flag);
-    writer.Key("tags");
-    writer.StartArray();
-    for (std::string const& tag : record.tags) {
-      writer.String(tag.c_str(), static_cast<rapidjson::SizeType>(tag.size()));
-    }
-    writer.EndArray();
-    writer.EndObject();
-  }
-  writer.EndArray();
-  return std::string(buffer.GetString(), buffer.GetSize());
+// Our own texts through rapidjson's DOM: parsed, and written back as they were.
+std::string const& OurText(object::JsonLayout layout) {
+  static std::string const indented = object::ToJson(Document(), object::JsonLayout::Indented);
+  static std::string const compact = object::ToJson(Document(), object::JsonLayout::Compact);
+  return layout == object::JsonLayout::Indented ? indented : compact;
 }
 
-void RapidJsonWriter(benchmark::State& state) {
-  std::vector<Record> const& records = Records();
-  benchmark::DoNotOptimize(RapidJsonWrite(records).size());
-  std::size_t bytes = 0;
-  for (auto _ : state) {
-    std::string const text = RapidJsonWrite(records);
-    bytes += text.size();
-    benchmark::DoNotOptimize(text.data());
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
-}
-BENCHMARK(RapidJsonWriter)->Unit(benchmark::kMillisecond);
-
-void RapidJsonParse(benchmark::State& state) {
-  std::string const text = RapidJsonWrite(Records());
-  {
-    rapidjson::Document warm;
-    warm.Parse(text.c_str(), text.size());
-  }
-  for (auto _ : state) {
+void ParseOurText(benchmark::State& state, object::JsonLayout layout) {
+  Reading(state, OurText(layout), [](std::string const& text) {
     rapidjson::Document document;
     document.Parse(text.c_str(), text.size());
-    benchmark::DoNotOptimize(document.Size());
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+    benchmark::DoNotOptimize(document.IsObject());
+  });
 }
-BENCHMARK(RapidJsonParse)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ParseOurText, Indented, object::JsonLayout::Indented)
+    ->Name("RapidJson/ParseOurText/Indented")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ParseOurText, Compact, object::JsonLayout::Compact)
+    ->Name("RapidJson/ParseOurText/Compact")
+    ->Unit(benchmark::kMillisecond);
+
+// The DOM written back must be our text, byte for byte.
+template <class Writer>
+void WriteOurText(benchmark::State& state, object::JsonLayout layout) {
+  std::string const& text = OurText(layout);
+  rapidjson::Document document;
+  document.Parse(text.c_str(), text.size());
+  auto const write = [&] {
+    rapidjson::StringBuffer buffer;
+    Writer writer(buffer);
+    document.Accept(writer);
+    return std::string(buffer.GetString(), buffer.GetSize());
+  };
+  if (write() != text) {
+    state.SkipWithError("rapidjson did not write our text back as it was");
+    return;
+  }
+  Writing(state, write);
+}
+
+void WriteOurIndentedText(benchmark::State& state) {
+  WriteOurText<rapidjson::PrettyWriter<rapidjson::StringBuffer>>(state,
+                                                                 object::JsonLayout::Indented);
+}
+void WriteOurCompactText(benchmark::State& state) {
+  WriteOurText<rapidjson::Writer<rapidjson::StringBuffer>>(state, object::JsonLayout::Compact);
+}
+BENCHMARK(WriteOurIndentedText)
+    ->Name("RapidJson/WriteOurText/Indented")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteOurCompactText)
+    ->Name("RapidJson/WriteOurText/Compact")
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+}  // namespace ryx::bench

@@ -1,26 +1,23 @@
-// The library's forms on the benchmark's mixed records, each a dictionary of
-// an Int32 id, a String name, a Double score, a Bool flag and an array of
-// three Strings, all in one array. Each reports MB/s of its own text; the
-// baselines on plain structs run beside them in the same program.
-#include "serialize_records.hpp"
-
-#include <ryx/object.hpp>
+// The library's forms on the benchmark's records (serialize_document.hpp).
+// Each reports MB/s of its own text and the time per record; the yardsticks
+// run beside them in the same program (serialize_baseline_benchmark.cpp).
+#include "serialize_document.hpp"
 
 #include <benchmark/benchmark.h>
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
-namespace {
+namespace ryx::bench {
 
 using namespace ryx::object;
 
-// The benchmark's value, built through the object model from plain records.
-std::shared_ptr<Object> Build(std::vector<ryx::bench::Record> const& plainRecords) {
+std::shared_ptr<Object> Build(std::vector<Record> const& plainRecords) {
   auto records = std::make_shared<Array<Object>>();
   records->Reserve(plainRecords.size());
-  for (ryx::bench::Record const& plain : plainRecords) {
+  for (Record const& plain : plainRecords) {
     auto tags = std::make_shared<Array<Object>>();
     tags->Reserve(plain.tags.size());
     for (std::string const& tag : plain.tags) {
@@ -39,61 +36,91 @@ std::shared_ptr<Object> Build(std::vector<ryx::bench::Record> const& plainRecord
 }
 
 std::shared_ptr<Object const> const& Document() {
-  static std::shared_ptr<Object const> const document = Build(ryx::bench::MakeRecords());
+  static std::shared_ptr<Object const> const document = Build(MakeRecords());
   return document;
 }
 
-template <std::string (*To)(std::shared_ptr<Object const> const&)>
-void Saving(benchmark::State& state) {
+namespace {
+
+template <class To>
+void Saving(benchmark::State& state, To to) {
   // Built, and saved once, before the clock starts (see reused_memory.cpp).
   std::shared_ptr<Object const> const& document = Document();
-  benchmark::DoNotOptimize(To(document).size());
-  std::size_t bytes = 0;
+  std::size_t const bytes = to(document).size();
   for (auto _ : state) {
-    std::string const text = To(document);
-    bytes += text.size();
+    std::string const text = to(document);
     benchmark::DoNotOptimize(text.data());
   }
-  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+  Report(state, bytes);
 }
 
-template <std::string (*To)(std::shared_ptr<Object const> const&),
-          std::shared_ptr<Object> (*From)(std::string_view)>
-void Loading(benchmark::State& state) {
-  std::string const text = To(Document());
-  benchmark::DoNotOptimize(From(text).get());
+template <class To, class From>
+void Loading(benchmark::State& state, To to, From from) {
+  std::string const text = to(Document());
+  benchmark::DoNotOptimize(from(text).get());
   for (auto _ : state) {
-    benchmark::DoNotOptimize(From(text).get());
+    benchmark::DoNotOptimize(from(text).get());
   }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+  Report(state, text.size());
 }
 
-BENCHMARK_TEMPLATE(Saving, ToJson)->Name("ToJson")->Unit(benchmark::kMillisecond);
-BENCHMARK_TEMPLATE(Loading, ToJson, FromJson)->Name("FromJson")->Unit(benchmark::kMillisecond);
-BENCHMARK_TEMPLATE(Saving, ToXml)->Name("ToXml")->Unit(benchmark::kMillisecond);
-BENCHMARK_TEMPLATE(Loading, ToXml, FromXml)->Name("FromXml")->Unit(benchmark::kMillisecond);
-BENCHMARK_TEMPLATE(Saving, ToBinary)->Name("ToBinary")->Unit(benchmark::kMillisecond);
-BENCHMARK_TEMPLATE(Loading, ToBinary, FromBinary)
+template <JsonLayout Layout>
+std::string Json(std::shared_ptr<Object const> const& value) {
+  return ToJson(value, Layout);
+}
+
+template <JsonLayout Layout>
+std::string JsonThroughArchive(std::shared_ptr<Object const> const& value) {
+  return ToJsonThroughArchive(value, Layout);
+}
+
+constexpr auto Indented = JsonLayout::Indented;
+constexpr auto Compact = JsonLayout::Compact;
+
+BENCHMARK_CAPTURE(Saving, Indented, Json<Indented>)
+    ->Name("ToJson/Indented")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Saving, Compact, Json<Compact>)
+    ->Name("ToJson/Compact")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Loading, Indented, Json<Indented>, FromJson)
+    ->Name("FromJson/Indented")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Loading, Compact, Json<Compact>, FromJson)
+    ->Name("FromJson/Compact")
+    ->Unit(benchmark::kMillisecond);
+// The archive path: cereal's archives and the registered functions, which
+// ToJson and FromJson used before they wrote and read directly.
+BENCHMARK_CAPTURE(Saving, Indented, JsonThroughArchive<Indented>)
+    ->Name("ToJsonThroughArchive/Indented")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Loading, Indented, Json<Indented>, FromJsonThroughArchive)
+    ->Name("FromJsonThroughArchive/Indented")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Saving, Binary, ToBinary)->Name("ToBinary")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Loading, Binary, ToBinary, FromBinary)
     ->Name("FromBinary")
     ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Saving, Xml, ToXml)->Name("ToXml")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Loading, Xml, ToXml, FromXml)->Name("FromXml")->Unit(benchmark::kMillisecond);
 
-// The floor under FromBinary: the same value built through the object model
+// The floor under every load: the same value built through the object model
 // from records already in memory, and released, with no text to read. A load
 // makes and frees the same blocks, so it cannot be faster than this. Its MB/s
 // count the binary text of the value, so the rate compares with FromBinary.
-void BuildAndReleaseBenchmark(benchmark::State& state) {
-  std::vector<ryx::bench::Record> const plainRecords = ryx::bench::MakeRecords();
+void BuildAndRelease(benchmark::State& state) {
+  std::vector<Record> const plainRecords = MakeRecords();
   std::size_t const bytes = ToBinary(Document()).size();
   benchmark::DoNotOptimize(Build(plainRecords).get());
   for (auto _ : state) {
     benchmark::DoNotOptimize(Build(plainRecords).get());
   }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes));
+  Report(state, bytes);
 }
-BENCHMARK(BuildAndReleaseBenchmark)->Name("BuildAndRelease")->Unit(benchmark::kMillisecond);
+BENCHMARK(BuildAndRelease)->Unit(benchmark::kMillisecond);
 
-// The tree has no text of its own: its MB/s count the JSON text of the same
-// value, so the rate compares with the other forms.
+// The tree has no text of its own: its MB/s count the indented JSON text of
+// the same value, so the rate compares with the other forms.
 void ToTemplateDataBenchmark(benchmark::State& state) {
   std::shared_ptr<Object const> const& document = Document();
   std::size_t const bytes = ToJson(document).size();
@@ -105,8 +132,10 @@ void ToTemplateDataBenchmark(benchmark::State& state) {
     mstch::node const tree = ToTemplateData(document);
     benchmark::DoNotOptimize(&tree);
   }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes));
+  Report(state, bytes);
 }
 BENCHMARK(ToTemplateDataBenchmark)->Name("ToTemplateData")->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+}  // namespace ryx::bench

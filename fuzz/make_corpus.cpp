@@ -1,5 +1,7 @@
-// Writes the seed corpora of the fuzzers: documents the library saved, one
-// file per value and form, into <directory>/{json,xml,binary}/.
+// Writes the seed corpora of the fuzzers into <directory>: documents the
+// library saved, one file per value and form, into {json,xml,binary}/ for
+// the loaders, and into direct_read/ in both JSON layouts and the binary form
+// for the differential reader; and a few recipes into direct_write/.
 #include <ryx/object.hpp>
 
 #include <filesystem>
@@ -17,6 +19,27 @@ using namespace ryx::object;
 void Write(std::filesystem::path const& file, std::string const& bytes) {
   std::ofstream out(file, std::ios::binary);
   out << bytes;
+}
+
+// Every kind in containers under typed and per-position schemas, with a
+// null child.
+std::shared_ptr<Object> Containers() {
+  Required const int32(Object::TypeIdOf<Int32>());
+  auto const typed = std::make_shared<Array<Object>>(
+      Required(Object::TypeIdOf<Array<Object>>(), {int32}),
+      Array<Object>::Objects{std::make_shared<Array<Object>>(int32, Array<Object>::Objects{})});
+  auto const record = std::make_shared<Dictionary<Object>>(Dictionary<Object>::Properties{
+      {"id", std::make_shared<Int32>(7)},
+      {"name", std::make_shared<String>("abc")},
+      {"tags", std::make_shared<Array<Object>>(
+                   Array<Object>::Objects{std::make_shared<String>("x"), typed})}});
+  auto const all = std::make_shared<Array<Object>>(Array<Object>::Objects{
+      record, std::make_shared<Enum<Object>>(enumeration::Dummy{65535}),
+      std::make_shared<Pointer<Object, void>>(), std::make_shared<Pointer<Object, void const>>(),
+      std::make_shared<Double>(std::numeric_limits<double>::quiet_NaN()),
+      std::make_shared<Int32>(0)});
+  *all->GetSlot(5) = nullptr;
+  return all;
 }
 
 }  // namespace
@@ -41,9 +64,10 @@ int main(int argc, char** argv) {
       std::make_shared<Double>(-1e-300),
       std::make_shared<String>("name"),
       std::make_shared<String>(std::string(" a\0b<&>\"\n", 10)),
+      Containers(),
   };
   std::filesystem::path const root(argv[1]);
-  for (char const* form : {"json", "xml", "binary"}) {
+  for (char const* form : {"json", "xml", "binary", "direct_read", "direct_write"}) {
     std::filesystem::create_directories(root / form);
   }
   for (std::size_t i = 0; i != values.size(); ++i) {
@@ -51,6 +75,18 @@ int main(int argc, char** argv) {
     Write(root / "json" / name, ToJson(values[i]));
     Write(root / "xml" / name, ToXml(values[i]));
     Write(root / "binary" / name, ToBinary(values[i]));
+    Write(root / "direct_read" / (name + ".indented"), ToJson(values[i]));
+    Write(root / "direct_read" / (name + ".compact"), ToJson(values[i], JsonLayout::Compact));
+    Write(root / "direct_read" / (name + ".binary"), ToBinary(values[i]));
   }
+  // Recipes: a byte per choice, so these pick a dictionary, an array, and
+  // every kind in turn.
+  std::string every;
+  for (int choice = 0; choice != 64; ++choice) {
+    every += static_cast<char>(choice % 20);
+    every += static_cast<char>(choice * 37);
+  }
+  Write(root / "direct_write" / "every_kind", std::string("\x12\x05", 2) + every);
+  Write(root / "direct_write" / "nested", std::string(48, '\x10'));
   return 0;
 }

@@ -135,6 +135,20 @@ std::shared_ptr<Object const> Sample() {
       {"numbers", std::move(numbers)}, {LongText, MakeString(LongText)}});
 }
 
+// A JSON save function with its layout bound.
+template <class Save>
+auto Indented(Save save) {
+  return [save](std::shared_ptr<Object const> const& value) {
+    return save(value, JsonLayout::Indented);
+  };
+}
+template <class Save>
+auto Compact(Save save) {
+  return [save](std::shared_ptr<Object const> const& value) {
+    return save(value, JsonLayout::Compact);
+  };
+}
+
 // Saving the sample armed gives the text of an unarmed save, or bad_alloc.
 template <class Save>
 bool SavesWhole(Save save) {
@@ -321,17 +335,27 @@ Case const Cases[] = {
     return PopsWhole(ThreeEntries(),
                      [](RyxObject* d) { return RyxObjectDictPopObject(d, LongText); });
   }},
-  {"ToJson", false, [] { return SavesWhole(ToJson); }},
+  {"ToJson", false, [] { return SavesWhole(Indented(ToJson)); }},
+  {"ToJson compact", false, [] { return SavesWhole(Compact(ToJson)); }},
+  {"ToJsonThroughArchive", false, [] { return SavesWhole(Indented(ToJsonThroughArchive)); }},
   {"ToXml", false, [] { return SavesWhole(ToXml); }},
   {"ToBinary", false, [] { return SavesWhole(ToBinary); }},
+  {"ToBinaryThroughArchive", false, [] { return SavesWhole(ToBinaryThroughArchive); }},
   {"Render", false, [] {
     return SavesWhole([](std::shared_ptr<Object const> const& value) {
       return Render("{{#properties}}{{key}}={{value.value}};{{/properties}}", value);
     });
   }},
-  {"FromJson", false, [] { return LoadsWhole(ToJson, FromJson); }},
+  {"FromJson", false, [] { return LoadsWhole(Indented(ToJson), FromJson); }},
+  {"FromJson compact", false, [] { return LoadsWhole(Compact(ToJson), FromJson); }},
+  {"FromJsonThroughArchive", false, [] {
+    return LoadsWhole(Indented(ToJson), FromJsonThroughArchive);
+  }},
   {"FromXml", false, [] { return LoadsWhole(ToXml, FromXml); }},
   {"FromBinary", false, [] { return LoadsWhole(ToBinary, FromBinary); }},
+  {"FromBinaryThroughArchive", false, [] {
+    return LoadsWhole(ToBinary, FromBinaryThroughArchive);
+  }},
 };
 // clang-format on
 

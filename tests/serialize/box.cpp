@@ -1,6 +1,7 @@
 #include "box.hpp"
 
 #include <cstdint>
+#include <limits>
 #include <mutex>
 #include <type_traits>
 
@@ -40,6 +41,51 @@ void LoadBox(Object& object, Archive& archive) {
 }
 
 }  // namespace
+
+std::vector<std::shared_ptr<Object const>> ExtremePrimitives() {
+  using Limits = std::numeric_limits<long>;
+  return {std::make_shared<Bool>(false),
+          std::make_shared<Int8>(-128),
+          std::make_shared<Int16>(-32768),
+          std::make_shared<Int32>(std::numeric_limits<int>::min()),
+          std::make_shared<Int64>(Limits::min()),
+          std::make_shared<Int64>(Limits::max()),
+          std::make_shared<UInt8>(255),
+          std::make_shared<UInt32>(std::numeric_limits<unsigned>::max()),
+          std::make_shared<UInt64>(std::numeric_limits<unsigned long>::max()),
+          std::make_shared<Float>(0.1f),
+          std::make_shared<Float>(3.4e38f),
+          std::make_shared<Double>(0.1),
+          std::make_shared<Double>(-1e-300),
+          std::make_shared<Double>(1e-310),
+          std::make_shared<Double>(std::numeric_limits<double>::max()),
+          std::make_shared<String>("line\nbreak \xc3\xa9 & x")};
+}
+
+std::shared_ptr<Object> Example() {
+  using Properties = Dictionary<Object>::Properties;
+  auto const record =
+      std::make_shared<Dictionary<Object>>(Properties{{"name", std::make_shared<String>("abc")}});
+  return std::make_shared<Array<Object>>(
+      Array<Object>::Objects{std::make_shared<Int32>(7), record});
+}
+
+std::shared_ptr<Array<Object>> EveryKindInContainers() {
+  using ryx::hash::MurmurThree32;
+  auto const pointer = std::make_shared<Pointer<Object, void>>();
+  pointer->Set(std::make_shared<int>(1), MurmurThree32::MakeData("test.Pointee"));
+  Required const schema(Object::TypeIdOf<Array<Object>>(), {Required(Object::TypeIdOf<Int32>())});
+  auto const typed = std::make_shared<Array<Object>>(
+      Required(Object::TypeIdOf<Int32>()), Array<Object>::Objects{std::make_shared<Int32>(1)});
+  auto const value = std::make_shared<Dictionary<Object>>(
+      Object::TypeIdOf<Dictionary<Object>>(), schema,
+      Dictionary<Object>::Properties{{"typed", typed}, {"nested", Example()}});
+  auto const all = std::make_shared<Array<Object>>(Array<Object>::Objects{
+      value, std::make_shared<Enum<Object>>(ryx::object::enumeration::Dummy{65535}), pointer,
+      std::make_shared<Pointer<Object, void const>>(), std::make_shared<Int32>(0)});
+  *all->GetSlot(4) = nullptr;
+  return all;
+}
 
 void RegisterBox() {
   static std::once_flag once;

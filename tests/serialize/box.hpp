@@ -1,7 +1,7 @@
-// Helpers shared by the serialization tests: the bytes of the binary form,
-// the failed check of a JSON document, and test::Box, a registered test kind
-// that holds one child value, so that nesting can be tested through Save and
-// Load with any depth of values.
+// Helpers shared by the serialization tests: the values the round trips run
+// through, the bytes of the binary form, the failed check of a JSON document,
+// and test::Box, a registered test kind that holds one child value, so that
+// nesting can be tested through Save and Load with any depth of values.
 #pragma once
 
 #include <ryx/object.hpp>
@@ -9,10 +9,23 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace test {
 
 using ryx::object::Object;
+
+// Primitive values of every kind at the edges of their ranges, and strings
+// with bytes the forms escape.
+std::vector<std::shared_ptr<Object const>> ExtremePrimitives();
+
+// [Int32 7, {"name": String "abc"}], both containers under the default schema.
+std::shared_ptr<Object> Example();
+
+// An array of: a dictionary under a typed schema holding a typed array and
+// the example, an enumerator, a pointer with a pointee, an empty const pointer
+// and a null child (what loading a null record leaves).
+std::shared_ptr<ryx::object::Array<Object>> EveryKindInContainers();
 
 // The little-endian bytes of an integer, as the binary form writes them.
 template <class T>

@@ -12,18 +12,9 @@
 namespace {
 
 using namespace ryx::object;
-using ryx::hash::MurmurThree32;
-using Objects = Array<Object>::Objects;
-using Properties = Dictionary<Object>::Properties;
 using test::Bytes;
+using test::Example;
 using test::Id;
-
-// [Int32 7, {"name": String "abc"}], both containers under the default schema.
-std::shared_ptr<Object> Example() {
-  auto const record =
-      std::make_shared<Dictionary<Object>>(Properties{{"name", std::make_shared<String>("abc")}});
-  return std::make_shared<Array<Object>>(Objects{std::make_shared<Int32>(7), record});
-}
 
 TEST(ContainerForms, WriteTheExampleAsJson) {
   EXPECT_EQ(ToJson(Example()), R"({
@@ -113,18 +104,9 @@ TEST(ContainerForms, WriteTheExampleAsTemplateData) {
 }
 
 TEST(ContainerForms, RoundTripEveryKindAndNullChildrenInEveryForm) {
-  auto const pointer = std::make_shared<Pointer<Object, void>>();
-  pointer->Set(std::make_shared<int>(1), MurmurThree32::MakeData("test.Pointee"));
-  Required const schema(Object::TypeIdOf<Array<Object>>(), {Required(Object::TypeIdOf<Int32>())});
-  auto const typed = std::make_shared<Array<Object>>(Required(Object::TypeIdOf<Int32>()),
-                                                     Objects{std::make_shared<Int32>(1)});
-  auto const value =
-      std::make_shared<Dictionary<Object>>(Object::TypeIdOf<Dictionary<Object>>(), schema,
-                                           Properties{{"typed", typed}, {"nested", Example()}});
-  auto const all = std::make_shared<Array<Object>>(
-      Objects{value, std::make_shared<Enum<Object>>(enumeration::Dummy{65535}), pointer,
-              std::make_shared<Pointer<Object, void const>>(), std::make_shared<Int32>(0)});
-  *all->GetSlot(4) = nullptr;  // what loading a null record leaves
+  auto const all = test::EveryKindInContainers();
+  auto const value = all->Get(0);
+  auto const& pointer = all->Get(2)->As<Pointer<Object, void>>();
   EXPECT_NO_THROW(ToTemplateData(all));
   for (auto const& loaded :
        {FromJson(ToJson(all)), FromXml(ToXml(all)), FromBinary(ToBinary(all))}) {
@@ -135,7 +117,7 @@ TEST(ContainerForms, RoundTripEveryKindAndNullChildrenInEveryForm) {
     // The pointee is not part of any form: only its type comes back.
     auto const& loadedPointer = array.Get(2)->As<Pointer<Object, void>>();
     EXPECT_EQ(loadedPointer.GetPointer(), nullptr);
-    EXPECT_EQ(loadedPointer.GetPointeeType(), pointer->GetPointeeType());
+    EXPECT_EQ(loadedPointer.GetPointeeType(), pointer.GetPointeeType());
     EXPECT_TRUE((array.Get(3)->Is<Pointer<Object, void const>>()));
     EXPECT_EQ(array.Get(4), nullptr);
   }

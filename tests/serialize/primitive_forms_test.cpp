@@ -94,11 +94,7 @@ TEST(PrimitiveForms, ANullValueIsWrittenAsAnEmptyTypeAndLoadsAsNull) {
 }
 
 TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
-  std::vector<std::shared_ptr<Object const>> values{
-      std::make_shared<Bool>(false),    std::make_shared<Int8>(-128),
-      std::make_shared<Float>(0.1f),    std::make_shared<Float>(3.4e38f),
-      std::make_shared<Double>(0.1),    std::make_shared<Double>(-1e-300),
-      std::make_shared<Double>(1e-310), std::make_shared<String>("line\nbreak \xc3\xa9 & x")};
+  std::vector<std::shared_ptr<Object const>> values = test::ExtremePrimitives();
   for (Written const& written : EveryKind()) {
     values.push_back(written.value);
   }

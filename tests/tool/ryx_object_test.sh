@@ -80,6 +80,14 @@ for form in json xml binary; do
   same "check says nothing" out /dev/null
 done
 
+# The compact layout holds no whitespace outside strings and loads the same.
+expect 0 "convert to compact JSON" "$tool" convert --to json --compact -o compact.json record.json
+if tr -d '\n' <compact.json | grep -q '[{,:\[] \|^ '; then
+  fail "compact JSON holds whitespace"
+fi
+expect 0 "print compact JSON" "$tool" print compact.json
+same "the tree of the compact document" out tree.expected
+
 # The binary form in both byte orders, written by hand: an array with the
 # default schema holding the Int32 7.
 "$tool" id ryx.object.Array ryx.object.Int32 >ids

@@ -14,12 +14,13 @@ struct ConvertOptions {
   DocumentOptions document;
   OutputOptions output;
   Form to = Form::Json;
+  bool compact = false;
 };
 
-// The document in the form asked for. JSON layouts other than the default
-// (such as a compact one) become options of `convert` and are passed here.
+// The document in the form asked for.
 std::string Convert(ConvertOptions const& options) {
-  return Save(options.to, LoadDocument(options.document));
+  return Save(options.to, LoadDocument(options.document),
+              options.compact ? JsonLayout::Compact : JsonLayout::Indented);
 }
 
 }  // namespace
@@ -31,6 +32,7 @@ void AddConvert(CLI::App& app) {
       ->required()
       ->transform(FormName())
       ->option_text("json|xml|binary REQUIRED");
+  command->add_flag("--compact", options->compact, "Write JSON without any whitespace");
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
   command->callback(

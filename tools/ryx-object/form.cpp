@@ -42,10 +42,10 @@ std::shared_ptr<Object> Load(Form form, std::string_view document) {
   return FromBinary(document);
 }
 
-std::string Save(Form form, std::shared_ptr<Object const> const& value) {
+std::string Save(Form form, std::shared_ptr<Object const> const& value, JsonLayout layout) {
   switch (form) {
     case Form::Json:
-      return ToJson(value);
+      return ToJson(value, layout);
     case Form::Xml:
       return ToXml(value);
     case Form::Binary:

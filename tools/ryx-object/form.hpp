@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ryx/object/fwd.hpp>
+#include <ryx/object/serialize/json.hpp>
 
 #include <map>
 #include <memory>
@@ -22,6 +23,8 @@ std::map<std::string, Form> const& FormNames();
 std::optional<Form> DetectForm(std::string_view bytes) noexcept;
 
 std::shared_ptr<Object> Load(Form form, std::string_view document);
-std::string Save(Form form, std::shared_ptr<Object const> const& value);
+// `layout` applies to JSON only.
+std::string Save(Form form, std::shared_ptr<Object const> const& value,
+                 JsonLayout layout = JsonLayout::Indented);
 
 }  // namespace ryx::object::tool

@@ -56,9 +56,10 @@ CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id) {
     }
     registry::Info const& info = found->second;
     char const* const name = info.GetTypeName();
-    cached =
-        cache.entries.emplace(id.GetValue(), CachedRecord{&info, name != nullptr ? name : ""})
-            .first;
+    cached = cache.entries
+                 .emplace(id.GetValue(),
+                          CachedRecord{&info, name != nullptr ? name : "", MakeDirectRecord(info)})
+                 .first;
   }
   recent = Cache::Recent{id.GetValue(), &cached->second};
   return recent.entry;

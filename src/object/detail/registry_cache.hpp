@@ -1,6 +1,7 @@
 // detail::FindCachedRecord: what saving and loading look up for every value
-// (a type's record and its name as a std::string), found without the
-// registry's lock and without copying the record's functions.
+// (a type's record, its name as a std::string and what the direct JSON writer
+// and reader need of it), found without the registry's lock and without
+// copying the record's functions.
 //
 // Each thread keeps the addresses of the registry records it has looked up,
 // valid for as long as the registry's generation is the one read before the
@@ -14,11 +15,14 @@
 
 #include <string>
 
+#include "object/serialize/detail/direct_record.hpp"
+
 namespace ryx::object::detail {
 
 struct CachedRecord {
   registry::Info const* info;  // in the registry
   std::string name;            // the record's type name
+  DirectRecord direct;
 };
 
 // The entry of `id` on this thread, or null when the id is not registered. The

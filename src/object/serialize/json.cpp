@@ -3,9 +3,13 @@
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/save.hpp>
 
+#include <cstddef>
+
 #include "object/serialize/detail/handlers.hpp"
-#include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/json_numbers.hpp"
+#include "object/serialize/detail/json_reader.hpp"
+#include "object/serialize/detail/json_writer.hpp"
+#include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
 
 namespace ryx::object {
@@ -15,7 +19,47 @@ namespace ryx::object {
 RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
 RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_LOAD)
 
-std::string ToJson(std::shared_ptr<Object const> const& value) {
+namespace {
+
+// The indented text without its layout: every blank and line break outside
+// strings goes (inside them the writer escapes control characters).
+std::string Compacted(std::string const& indented) {
+  std::string compact;
+  compact.reserve(indented.size());
+  bool inString = false;
+  for (std::size_t at = 0; at != indented.size(); ++at) {
+    char const c = indented[at];
+    if (inString) {
+      compact += c;
+      if (c == '\\' && at + 1 != indented.size()) {
+        compact += indented[++at];
+      } else if (c == '"') {
+        inString = false;
+      }
+    } else if (c == '"') {
+      inString = true;
+      compact += c;
+    } else if (c != ' ' && c != '\n') {
+      compact += c;
+    }
+  }
+  return compact;
+}
+
+// The parser is iterative (see <ryx/serialize/archive/json.hpp>), so any depth
+// of nesting only costs memory in proportion to the document; Load refuses
+// values nested deeper than the limit.
+std::shared_ptr<Object> LoadThroughArchive(std::string_view document) {
+  detail::ViewStream in(document);
+  cereal::JSONInputArchive archive(in);
+  std::shared_ptr<Object> value;
+  Load(archive, value);
+  return value;
+}
+
+}  // namespace
+
+std::string ToJsonThroughArchive(std::shared_ptr<Object const> const& value, JsonLayout layout) {
   detail::StringStream text;
   {
     // The archive completes the document when it is destroyed.
@@ -31,19 +75,30 @@ std::string ToJson(std::shared_ptr<Object const> const& value) {
       throw;
     }
   }
-  return text.Take();
+  std::string indented = text.Take();
+  return layout == JsonLayout::Indented ? indented : Compacted(indented);
 }
 
-// The parser is iterative (see <ryx/serialize/archive/json.hpp>), so any depth
-// of nesting only costs memory in proportion to the document; Load refuses
-// values nested deeper than the limit.
+std::string ToJson(std::shared_ptr<Object const> const& value, JsonLayout layout) {
+  std::string text;
+  if (detail::WriteJson(value.get(), layout, text)) {
+    return text;
+  }
+  return ToJsonThroughArchive(value, layout);
+}
+
+std::shared_ptr<Object> FromJsonThroughArchive(std::string_view document) {
+  detail::CheckJsonNumbers(document);
+  return LoadThroughArchive(document);
+}
+
 std::shared_ptr<Object> FromJson(std::string_view document) {
   detail::CheckJsonNumbers(document);
-  detail::ViewStream in(document);
-  cereal::JSONInputArchive archive(in);
   std::shared_ptr<Object> value;
-  Load(archive, value);
-  return value;
+  if (detail::ReadJson(document, value)) {
+    return value;
+  }
+  return LoadThroughArchive(document);
 }
 
 }  // namespace ryx::object

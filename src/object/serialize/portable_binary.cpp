@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "object/serialize/detail/binary_reader.hpp"
+#include "object/serialize/detail/binary_writer.hpp"
 #include "object/serialize/detail/handlers.hpp"
 #include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
@@ -17,14 +19,14 @@ namespace ryx::object {
 RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_SAVE)
 RYX_OBJECT_SERIALIZED_KINDS(RYX_OBJECT_DETAIL_INSTANTIATE_LOAD)
 
-std::string ToBinary(std::shared_ptr<Object const> const& value) {
+std::string ToBinaryThroughArchive(std::shared_ptr<Object const> const& value) {
   detail::StringStream bytes;
   cereal::PortableBinaryOutputArchive archive(bytes);
   Save(archive, value);
   return bytes.Take();
 }
 
-std::shared_ptr<Object> FromBinary(std::string_view bytes) {
+std::shared_ptr<Object> FromBinaryThroughArchive(std::string_view bytes) {
   // The archive would take any other first byte as "big-endian".
   if (!bytes.empty() && static_cast<unsigned char>(bytes.front()) > 1) {
     throw std::runtime_error("Invalid endianness byte in the binary form: " +
@@ -36,6 +38,22 @@ std::shared_ptr<Object> FromBinary(std::string_view bytes) {
   std::shared_ptr<Object> value;
   Load(archive, value);
   return value;
+}
+
+std::string ToBinary(std::shared_ptr<Object const> const& value) {
+  std::string bytes;
+  if (detail::WriteBinary(value.get(), bytes)) {
+    return bytes;
+  }
+  return ToBinaryThroughArchive(value);
+}
+
+std::shared_ptr<Object> FromBinary(std::string_view bytes) {
+  std::shared_ptr<Object> value;
+  if (detail::ReadBinary(bytes, value)) {
+    return value;
+  }
+  return FromBinaryThroughArchive(bytes);
 }
 
 }  // namespace ryx::object

@@ -8,6 +8,12 @@
 // NestingLimitError). Counts and lengths are never trusted: memory grows with
 // the bytes actually read, so a short stream claiming a huge count fails as
 // soon as the stream ends.
+//
+// ToBinary and FromBinary write and read the library's own kinds directly;
+// for any other registered type, and for a stream in the other byte order,
+// they go through cereal's archives and the registered save and load
+// functions, as ToBinaryThroughArchive and FromBinaryThroughArchive always
+// do. Both paths give the same bytes, values and errors.
 #pragma once
 
 #include <ryx/object/export.hpp>
@@ -21,5 +27,8 @@ namespace ryx::object {
 
 RYX_OBJECT_EXPORT std::string ToBinary(std::shared_ptr<Object const> const& value);
 RYX_OBJECT_EXPORT std::shared_ptr<Object> FromBinary(std::string_view bytes);
+
+RYX_OBJECT_EXPORT std::string ToBinaryThroughArchive(std::shared_ptr<Object const> const& value);
+RYX_OBJECT_EXPORT std::shared_ptr<Object> FromBinaryThroughArchive(std::string_view bytes);
 
 }  // namespace ryx::object

@@ -78,20 +78,38 @@ void ReadValue(Archive& archive, Primitive<T, Object>& value) {
   value.Set(ReadField<T>(archive));
 }
 
+// The library's own save and load functions of kind T, as named function
+// objects so that a registry record can be recognised as holding them
+// (std::function::target): the direct JSON writer and reader handle such
+// records themselves and leave any other function to the archive.
+//
+// Saving casts with the checked As<T>: a save function called with another
+// kind throws BadCast. Loading does not check: Load made the object from the
+// same type id.
+template <class T, class Archive>
+struct SaveHandler {
+  void operator()(Object const& object, Archive& archive) const {
+    WriteValue(archive, object.As<T>());
+  }
+};
+
+template <class T, class Archive>
+struct LoadHandler {
+  void operator()(Object& object, Archive& archive) const {
+    ReadValue(archive, static_cast<T&>(object));
+  }
+};
+
 }  // namespace detail
 
-// Checked cast: a save function called with another kind throws BadCast.
 template <class T, class Archive, SaveFunction<Archive>*>
 SaveFunction<Archive> MakeSaveFunction() {
-  return
-      [](Object const& object, Archive& archive) { detail::WriteValue(archive, object.As<T>()); };
+  return detail::SaveHandler<T, Archive>();
 }
 
-// Unchecked: Load made the object from the same type id.
 template <class T, class Archive, LoadFunction<Archive>*>
 LoadFunction<Archive> MakeLoadFunction() {
-  return
-      [](Object& object, Archive& archive) { detail::ReadValue(archive, static_cast<T&>(object)); };
+  return detail::LoadHandler<T, Archive>();
 }
 
 }  // namespace ryx::object

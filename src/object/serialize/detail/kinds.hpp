@@ -30,8 +30,12 @@ using ConstPointerKind = Pointer<Object, void const>;
 
 }  // namespace ryx::object::detail
 
-#define RYX_OBJECT_SERIALIZED_KINDS(X)                                                         \
-  X(Bool)                                                                                      \
-  X(Int8) X(Int16) X(Int32) X(Int64) X(UInt8) X(UInt16) X(UInt32) X(UInt64) X(Float) X(Double) \
-      X(String) X(detail::ArrayKind) X(detail::DictionaryKind) X(detail::EnumKind)             \
-          X(detail::PointerKind) X(detail::ConstPointerKind)
+#define RYX_OBJECT_SERIALIZED_KINDS(X)                                                     \
+  X(Bool)                                                                                  \
+  X(Int8)                                                                                  \
+  X(Int16)                                                                                 \
+  X(Int32)                                                                                 \
+  X(Int64)                                                                                 \
+  X(UInt8) X(UInt16) X(UInt32) X(UInt64) X(Float) X(Double) X(String) X(detail::ArrayKind) \
+      X(detail::DictionaryKind) X(detail::EnumKind) X(detail::PointerKind)                 \
+          X(detail::ConstPointerKind)

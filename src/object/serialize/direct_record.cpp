@@ -1,0 +1,82 @@
+#include "object/serialize/detail/direct_record.hpp"
+
+#include <cstring>
+#include <tuple>
+#include <utility>
+
+#include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/json_allocator.hpp"
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+namespace ryx::object::detail {
+
+namespace {
+
+template <class Function, template <class, class> class Handler, class Archive>
+LibraryKind KindOf(Function const& function) {
+  if (!function) {
+    return LibraryKind::none;
+  }
+  LibraryKind kind = LibraryKind::other;
+  auto const match = [&](auto tag, LibraryKind candidate) {
+    using Kind = typename decltype(tag)::type;
+    if (function.template target<Handler<Kind, Archive>>() != nullptr) {
+      kind = candidate;
+    }
+  };
+#define RYX_OBJECT_DETAIL_MATCH(Type, Name) match(std::common_type<Type>(), LibraryKind::Name);
+  RYX_OBJECT_DETAIL_MATCH(Bool, Bool)
+  RYX_OBJECT_DETAIL_MATCH(Int8, Int8)
+  RYX_OBJECT_DETAIL_MATCH(Int16, Int16)
+  RYX_OBJECT_DETAIL_MATCH(Int32, Int32)
+  RYX_OBJECT_DETAIL_MATCH(Int64, Int64)
+  RYX_OBJECT_DETAIL_MATCH(UInt8, UInt8)
+  RYX_OBJECT_DETAIL_MATCH(UInt16, UInt16)
+  RYX_OBJECT_DETAIL_MATCH(UInt32, UInt32)
+  RYX_OBJECT_DETAIL_MATCH(UInt64, UInt64)
+  RYX_OBJECT_DETAIL_MATCH(Float, Float)
+  RYX_OBJECT_DETAIL_MATCH(Double, Double)
+  RYX_OBJECT_DETAIL_MATCH(String, String)
+  RYX_OBJECT_DETAIL_MATCH(ArrayKind, Array)
+  RYX_OBJECT_DETAIL_MATCH(DictionaryKind, Dictionary)
+  RYX_OBJECT_DETAIL_MATCH(EnumKind, Enum)
+  RYX_OBJECT_DETAIL_MATCH(PointerKind, Pointer)
+  RYX_OBJECT_DETAIL_MATCH(ConstPointerKind, ConstPointer)
+#undef RYX_OBJECT_DETAIL_MATCH
+  return kind;
+}
+
+// Escaped by rapidjson's own writer, exactly as the archive escapes it.
+std::string Quoted(char const* name) {
+  using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, JsonStackAllocator>;
+  JsonStackAllocator allocator;
+  Buffer quoted(&allocator);
+  rapidjson::Writer<Buffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator> writer(
+      quoted, &allocator);
+  writer.String(name, static_cast<rapidjson::SizeType>(std::strlen(name)));
+  return std::string(quoted.GetString(), quoted.GetSize());
+}
+
+template <class Output, class Input>
+std::pair<LibraryKind, LibraryKind> KindsOf(registry::Info const& info) {
+  return {KindOf<SaveFunction<Output>, SaveHandler, Output>(
+              std::get<SaveFunction<Output>>(info.GetSaveFunctions())),
+          KindOf<LoadFunction<Input>, LoadHandler, Input>(
+              std::get<LoadFunction<Input>>(info.GetLoadFunctions()))};
+}
+
+}  // namespace
+
+DirectRecord MakeDirectRecord(registry::Info const& info) {
+  auto const [jsonSave, jsonLoad] =
+      KindsOf<cereal::JSONOutputArchive, cereal::JSONInputArchive>(info);
+  auto const [binarySave, binaryLoad] =
+      KindsOf<cereal::PortableBinaryOutputArchive, cereal::PortableBinaryInputArchive>(info);
+  char const* const name = info.GetTypeName();
+  return DirectRecord{jsonSave, jsonLoad, binarySave, binaryLoad,
+                      Quoted(name != nullptr ? name : "")};
+}
+
+}  // namespace ryx::object::detail
