@@ -23,6 +23,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <thread>
 
 #include "support.hpp"
 
@@ -338,6 +339,17 @@ Case const Cases[] = {
   {"ToJson", false, [] { return SavesWhole(Indented(ToJson)); }},
   {"ToJson compact", false, [] { return SavesWhole(Compact(ToJson)); }},
   {"ToJsonThroughArchive", false, [] { return SavesWhole(Indented(ToJsonThroughArchive)); }},
+  {"ToBinary, first on its thread", false, [] {
+    // The first save on a thread also sets up that thread's lookups.
+    auto const sample = Sample();
+    std::string const expected = ToBinary(sample);
+    std::optional<std::string> text;
+    std::thread([&] { text = ArmedOrBadAlloc([&] { return ToBinary(sample); }); }).join();
+    if (text) {
+      EXPECT_EQ(*text, expected);
+    }
+    return !text;
+  }},
   {"ToXml", false, [] { return SavesWhole(ToXml); }},
   {"ToBinary", false, [] { return SavesWhole(ToBinary); }},
   {"ToBinaryThroughArchive", false, [] { return SavesWhole(ToBinaryThroughArchive); }},

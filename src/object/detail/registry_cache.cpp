@@ -2,9 +2,14 @@
 
 #include <ryx/object/registry/get.hpp>
 
+#include <pthread.h>
+
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <memory>
+#include <new>
+#include <system_error>
 #include <unordered_map>
 
 namespace ryx::object::detail {
@@ -30,7 +35,37 @@ struct Cache {
   }
 };
 
-thread_local Cache cache;
+// The calling thread's cache, made by its first lookup. It is not a
+// thread_local object of its own: the C runtime would register its destructor
+// on the thread's first use, and glibc ends the process when that registration
+// cannot allocate. A key's destructor is registered once for the process, and
+// a thread that cannot store its cache gets std::bad_alloc.
+thread_local Cache* threadCache = nullptr;
+
+void DeleteCache(void* cache) noexcept {
+  delete static_cast<Cache*>(cache);
+  threadCache = nullptr;
+}
+
+pthread_key_t MakeCacheKey() {
+  pthread_key_t key;
+  if (int const error = pthread_key_create(&key, DeleteCache); error != 0) {
+    throw std::system_error(error, std::generic_category(), "Cannot keep per-thread type lookups");
+  }
+  return key;
+}
+
+Cache& ThreadCache() {
+  if (threadCache == nullptr) {
+    static pthread_key_t const key = MakeCacheKey();
+    auto made = std::make_unique<Cache>();
+    if (pthread_setspecific(key, made.get()) != 0) {
+      throw std::bad_alloc();
+    }
+    threadCache = made.release();
+  }
+  return *threadCache;
+}
 
 }  // namespace
 
@@ -39,6 +74,7 @@ CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id) {
   // Read before any lookup: an entry filled later may be newer than this
   // generation, never older.
   std::uint64_t const generation = registry.GetGeneration();
+  Cache& cache = ThreadCache();
   if (generation != cache.generation) {
     cache.Clear();
     cache.generation = generation;
