@@ -7,7 +7,7 @@
 // endianness byte other than 0 or 1 and the binary errors of Load,
 // NestingLimitError). Counts and lengths are never trusted: memory grows with
 // the bytes actually read, so a short stream claiming a huge count fails as
-// soon as the stream ends.
+// soon as the stream ends. Strings and keys keep every byte, NUL included.
 #pragma once
 
 #include <ryx/object/export.hpp>

@@ -43,6 +43,7 @@
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/save_value.hpp"
 #include "object/serialize/detail/type_record.hpp"
+#include "object/serialize/detail/xml_text.hpp"
 
 namespace ryx::object::detail {
 
@@ -119,7 +120,12 @@ struct SavedEntries {
 
     template <class Archive>
     void save(Archive& archive) const {
-      OutOfLine([&] { archive(cereal::make_nvp("key", key)); });
+      OutOfLine([&] {
+        if constexpr (std::is_same_v<Archive, cereal::XMLOutputArchive>) {
+          CheckXmlText(key, "dictionary key");
+        }
+        archive(cereal::make_nvp("key", key));
+      });
       archive(cereal::make_nvp("value", SavedNode{value}));
     }
   };
