@@ -60,15 +60,16 @@ Dictionary<Base>& Dictionary<Base>::operator=(Dictionary const& other) {
   detail::Copier copier;
   Properties copies;
   copies.reserve(other.properties.size());
-  for (auto const& [key, value] : other.properties) {
+  for (auto const& entry : other.properties) {
+    std::string const& key = entry.first;
     // A null value (left by loading) stays null, so the copy equals its source.
-    if (!value) {
+    if (!entry.second) {
       copies.emplace(key, nullptr);
       continue;
     }
-    std::shared_ptr<Object> copy = copier.Copy(*value);
+    std::shared_ptr<Object> copy = copier.Copy(*entry.second);
     if (!copy) {
-      ThrowCannotCopy(key, *value);
+      ThrowCannotCopy(key, *entry.second);
     }
     detail::OutOfLine([&] { copies.emplace(key, std::move(copy)); });
   }
