@@ -8,6 +8,7 @@
 #include "object/detail/child_release.hpp"
 #include "object/detail/copier.hpp"
 #include "object/detail/nesting_guard.hpp"
+#include "object/detail/out_of_line.hpp"
 #include "object/detail/type_name.hpp"
 
 #include <iterator>
@@ -19,6 +20,14 @@
 namespace ryx::object {
 
 namespace {
+
+[[noreturn, gnu::noinline, gnu::cold]] void ThrowCannotCopy(Object const& element) {
+  std::string message = "Failed to copy array element '";
+  if (char const* const name = Object::TypeName(element.GetType())) {
+    message += name;
+  }
+  throw std::runtime_error(message);
+}
 
 [[noreturn]] void ThrowOutOfRange(std::size_t index, std::size_t size) {
   throw std::out_of_range("The index is out of range: " + std::to_string(index) +
@@ -69,18 +78,17 @@ Array<Base>& Array<Base>::operator=(Array const& other) {
     }
     std::shared_ptr<Object> copy = copier.Copy(*element);
     if (!copy) {
-      std::string message = "Failed to copy array element '";
-      if (char const* const name = Object::TypeName(element->GetType())) {
-        message += name;
-      }
-      throw std::runtime_error(message);
+      ThrowCannotCopy(*element);
     }
     copies.push_back(std::move(copy));
   }
-  Required newRequired = other.required;
-  swap(required, newRequired);
-  objects.swap(copies);
-  detail::ChildRelease::Release(copies);
+  // Out of line: this frame is on the stack once per level of the copy.
+  detail::OutOfLine([&] {
+    Required newRequired = other.required;
+    swap(required, newRequired);
+    objects.swap(copies);
+    detail::ChildRelease::Release(copies);
+  });
   return *this;
 }
 

@@ -8,12 +8,26 @@
 #include "object/detail/child_release.hpp"
 #include "object/detail/copier.hpp"
 #include "object/detail/nesting_guard.hpp"
+#include "object/detail/out_of_line.hpp"
 
 #include <stdexcept>
 #include <utility>
 #include <vector>
 
 namespace ryx::object {
+
+namespace {
+
+[[noreturn, gnu::noinline, gnu::cold]] void ThrowCannotCopy(std::string const& key,
+                                                            Object const& value) {
+  std::string message = "Failed to copy dictionary element '" + key + "': ";
+  if (char const* const name = Object::TypeName(value.GetType())) {
+    message += name;
+  }
+  throw std::runtime_error(message);
+}
+
+}  // namespace
 
 template <class Base>
 Dictionary<Base>::Dictionary() : Base(Base::template TypeIdOf<Dictionary>()) {}
@@ -46,38 +60,37 @@ Dictionary<Base>& Dictionary<Base>::operator=(Dictionary const& other) {
   detail::Copier copier;
   Properties copies;
   copies.reserve(other.properties.size());
-  for (auto const& [key, value] : other.properties) {
+  for (auto const& entry : other.properties) {
+    std::string const& key = entry.first;
     // A null value (left by loading) stays null, so the copy equals its source.
-    if (!value) {
+    if (!entry.second) {
       copies.emplace(key, nullptr);
       continue;
     }
-    std::shared_ptr<Object> copy = copier.Copy(*value);
+    std::shared_ptr<Object> copy = copier.Copy(*entry.second);
     if (!copy) {
-      std::string message = "Failed to copy dictionary element '" + key + "': ";
-      if (char const* const name = Object::TypeName(value->GetType())) {
-        message += name;
+      ThrowCannotCopy(key, *entry.second);
+    }
+    detail::OutOfLine([&] { copies.emplace(key, std::move(copy)); });
+  }
+  // Out of line: this frame is on the stack once per level of the copy.
+  detail::OutOfLine([&] {
+    Required newRequired = other.required;
+    // The entries go first and the source's schema is checked against none: a
+    // per-position schema therefore fails here, leaving this dictionary empty
+    // under its previous schema.
+    detail::ChildRelease::ReleaseChildren(*this);
+    other.required.Check(properties);
+    swap(required, newRequired);
+    // The schema now applies as a whole to every value; null values copied
+    // from a loaded source are kept as they are.
+    for (auto const& entry : copies) {
+      if (entry.second) {
+        required.Check(*entry.second);
       }
-      throw std::runtime_error(message);
     }
-    copies.emplace(key, std::move(copy));
-  }
-  Required newRequired = other.required;
-
-  // The entries go first and the source's schema is checked against none: a
-  // per-position schema therefore fails here, leaving this dictionary empty
-  // under its previous schema.
-  detail::ChildRelease::ReleaseChildren(*this);
-  other.required.Check(properties);
-  swap(required, newRequired);
-  // The schema now applies as a whole to every value; null values copied from
-  // a loaded source are kept as they are.
-  for (auto const& entry : copies) {
-    if (entry.second) {
-      required.Check(*entry.second);
-    }
-  }
-  properties.swap(copies);
+    properties.swap(copies);
+  });
   return *this;
 }
 

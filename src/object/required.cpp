@@ -4,6 +4,7 @@
 #include <ryx/object/dictionary.hpp>
 #include <ryx/object/object.hpp>
 
+#include "object/detail/nesting_guard.hpp"
 #include "object/detail/type_name.hpp"
 
 #include <algorithm>
@@ -43,8 +44,17 @@ void Required::ThrowSizeMismatch() {
       "Array size must be the same as Required size for Required with null type.");
 }
 
-bool Required::operator==(Required const& other) const noexcept {
-  return type == other.type && childTypes == other.childTypes;
+Required::Required(Required const& other) : type(other.type) {
+  detail::NestingGuard const level(detail::Nesting::schema);
+  childTypes = other.childTypes;
+}
+
+bool Required::operator==(Required const& other) const {
+  if (type != other.type || childTypes.size() != other.childTypes.size()) {
+    return false;
+  }
+  detail::NestingGuard const level(detail::Nesting::schema);
+  return std::equal(childTypes.begin(), childTypes.end(), other.childTypes.begin());
 }
 
 void Required::Check(Object const& object) const {

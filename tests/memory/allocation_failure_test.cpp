@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -45,7 +46,10 @@ bool Refuse() noexcept {
   ++allocations.seen;
   bool const refuse = allocations.seen == allocations.refuseAt ||
                       (allocations.refuseRest && allocations.refused > 0);
-  allocations.refused += refuse ? 1 : 0;
+  if (refuse) {
+    ++allocations.refused;
+    errno = ENOMEM;  // as malloc sets it; the C library's own callers read it
+  }
   return refuse;
 }
 

@@ -59,6 +59,9 @@ std::vector<std::shared_ptr<Object const>> ExtremePrimitives() {
           std::make_shared<Double>(-1e-300),
           std::make_shared<Double>(1e-310),
           std::make_shared<Double>(std::numeric_limits<double>::max()),
+          // Not strict JSON: the JSON form writes and reads Infinity and NaN.
+          std::make_shared<Double>(-std::numeric_limits<double>::infinity()),
+          std::make_shared<Float>(std::numeric_limits<float>::infinity()),
           std::make_shared<String>("line\nbreak \xc3\xa9 & x")};
 }
 

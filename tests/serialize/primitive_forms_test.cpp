@@ -1,9 +1,11 @@
 // Every primitive kind in every form: the documents written for it, the
 // null value, and round trips.
 #include "serialize/box.hpp"
+#include "support.hpp"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -12,6 +14,7 @@
 namespace {
 
 using namespace ryx::object;
+using ryx::object::testing::MessageOf;
 using test::Bytes;
 using test::Id;
 using test::Little;
@@ -95,6 +98,8 @@ TEST(PrimitiveForms, ANullValueIsWrittenAsAnEmptyTypeAndLoadsAsNull) {
 
 TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
   std::vector<std::shared_ptr<Object const>> values = test::ExtremePrimitives();
+  auto const nan = std::make_shared<Double>(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_TRUE(std::isnan(FromJson(ToJson(nan))->As<Double>().Get()));
   for (Written const& written : EveryKind()) {
     values.push_back(written.value);
   }
@@ -109,14 +114,60 @@ TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
   }
 }
 
-// JSON escapes a NUL but its reader ends the string there; only the binary
-// form keeps every byte.
-TEST(PrimitiveForms, AStringWithANulKeepsItsBytesOnlyInTheBinaryForm) {
-  auto const value = std::make_shared<String>(std::string("ab\0c", 4));
-  std::string const json = ToJson(value);
-  EXPECT_NE(json.find("\"ab\\u0000c\""), std::string::npos) << json;
-  EXPECT_EQ(FromJson(json)->As<String>().Get(), "ab");
-  EXPECT_TRUE(FromBinary(ToBinary(value))->EqualTo(*value));
+// A string that goes through a form comes back as it was, or as the form
+// documents (the JSON reader ends a string at its first NUL), or the save
+// throws (XML 1.0 cannot hold most control characters, nor bytes that are not
+// UTF-8). Blanks at either end survive XML through xml:space="preserve".
+struct Text {
+  std::string text;
+  bool xmlHolds;
+};
+
+std::vector<Text> Texts() {
+  std::vector<Text> texts;
+  for (int byte = 0; byte <= 0x7F; byte = byte == 0x1F ? 0x7F : byte + 1) {
+    bool const xmlHolds = byte == '\t' || byte == '\n' || byte == '\r' || byte == 0x7F;
+    texts.push_back({std::string("a") + static_cast<char>(byte) + "b", xmlHolds});
+  }
+  // Blanks at either end; characters of two, three and four bytes.
+  for (char const* kept : {" a", "a ", "\ta\n", " \r\n", "\xc3\xa9\xe2\x82\xac\xf0\x9d\x84\x9e"}) {
+    texts.push_back({kept, true});
+  }
+  // Not UTF-8: a stray byte, a cut sequence, an overlong form, a surrogate;
+  // and U+FFFE, which XML excludes.
+  for (char const* bytes : {"\xff", "a\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xef\xbf\xbe"}) {
+    texts.push_back({bytes, false});
+  }
+  return texts;
+}
+
+// A dictionary holding `text` as its key and as its value.
+std::shared_ptr<Object const> Keyed(std::string const& text) {
+  return std::make_shared<Dictionary<Object>>(
+      Dictionary<Object>::Properties{{text, std::make_shared<String>(text)}});
+}
+
+TEST(PrimitiveForms, AStringComesBackOrIsRefusedButNeverChangesSilently) {
+  for (Text const& text : Texts()) {
+    SCOPED_TRACE(::testing::PrintToString(text.text));
+    auto const value = Keyed(text.text);
+    EXPECT_TRUE(FromBinary(ToBinary(value))->EqualTo(*value));
+    EXPECT_TRUE(
+        FromJson(ToJson(value))->EqualTo(*Keyed(text.text.substr(0, text.text.find('\0')))));
+    if (text.xmlHolds) {
+      EXPECT_TRUE(FromXml(ToXml(value))->EqualTo(*value));
+    } else {
+      EXPECT_THROW(ToXml(value), std::runtime_error);
+      EXPECT_THROW(ToXml(std::make_shared<String>(text.text)), std::runtime_error);
+    }
+  }
+  EXPECT_EQ(MessageOf<std::runtime_error>(
+                [] { ToXml(std::make_shared<String>(std::string("a\0b", 3))); }),
+            "Cannot save the string in the XML form: XML 1.0 cannot hold the control character "
+            "0x00 at byte offset 1");
+  EXPECT_EQ(MessageOf<std::runtime_error>([] { ToXml(Keyed("ok\xff")); }),
+            "Cannot save the dictionary key in the XML form: the byte 0xFF does not start a valid "
+            "UTF-8 sequence at byte offset 2");
 }
 
 TEST(TemplateData, WritesNumbersAsShortDecimalText) {

@@ -1,5 +1,6 @@
 // The nesting limit of the recursive operations: Save and Load, deep copies
-// (Set(Object const&) of containers, Object::Copy) and comparisons (EqualTo).
+// (Set(Object const&) of containers, Object::Copy, copies of schemas) and
+// comparisons (EqualTo, == of schemas).
 //
 // Every value such an operation enters is one level below the value holding
 // it (the value passed in is level 1), and every schema one level below the
@@ -7,9 +8,15 @@
 // deeper than the limit makes the operation throw NestingLimitError, which
 // keeps hostile documents and deep values from exhausting the stack; the value
 // operated on is left as it was. The limit is process-wide; each thread counts
-// its own depth. Raising it lets deeper values through at the cost of
-// proportionally more stack. Destruction is never limited: containers release
-// their children iteratively.
+// its own depth. Destruction is never limited: containers release their
+// children iteratively.
+//
+// The stack is measured too. A level that would leave less than a reserve of
+// the calling thread's stack (32 KiB; 64 KiB under AddressSanitizer) is
+// refused with NestingLimitError as well, whatever the limit, so no depth
+// overflows a small thread stack: the operations work at any depth on stacks
+// of 128 KiB and more, going as deep as the stack allows. A stack the thread
+// library did not make (a coroutine's, say) is not measured.
 #pragma once
 
 #include <ryx/object/export.hpp>

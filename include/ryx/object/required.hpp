@@ -40,7 +40,9 @@ public:
   Required(hash::MurmurThree32 type, const_iterator const& begin, const_iterator const& end);
   Required(const_iterator const& begin, const_iterator const& end);
 
-  Required(Required const&) = default;
+  // Copying and comparing walk the whole tree: a schema nested deeper than the
+  // nesting limit, or than the thread's stack allows, throws NestingLimitError.
+  Required(Required const& other);
   // The source keeps its type and is left with no children.
   Required(Required&& other) noexcept : type(other.type), childTypes(std::move(other.childTypes)) {
     other.childTypes.clear();
@@ -58,8 +60,8 @@ public:
 
   // False exactly for the empty schema: null type, no children.
   explicit operator bool() const noexcept { return type != hash::MurmurThree32() || !childTypes.empty(); }
-  bool operator==(Required const& other) const noexcept;
-  bool operator!=(Required const& other) const noexcept { return !(*this == other); }
+  bool operator==(Required const& other) const;
+  bool operator!=(Required const& other) const { return !(*this == other); }
 
   hash::MurmurThree32 GetType() const noexcept { return type; }
   std::vector<Required> const& GetChildTypes() const noexcept { return childTypes; }

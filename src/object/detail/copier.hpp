@@ -20,8 +20,7 @@ public:
   std::shared_ptr<Object> Copy(Object const& source) {
     hash::MurmurThree32 const type = source.GetType();
     if (type != lastType || !construct) {
-      construct = Object::GetConstructFunction(type);
-      lastType = type;
+      LookUp(type);
     }
     if (!construct) {
       return nullptr;
@@ -34,6 +33,13 @@ public:
   }
 
 private:
+  // Out of line: copies of nested containers recurse through Copy, and the
+  // lookup's temporaries would take stack on every level.
+  [[gnu::noinline]] void LookUp(hash::MurmurThree32 type) {
+    construct = Object::GetConstructFunction(type);
+    lastType = type;
+  }
+
   hash::MurmurThree32 lastType;
   std::function<std::shared_ptr<Object>()> construct;
 };

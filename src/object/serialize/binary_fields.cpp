@@ -13,6 +13,19 @@ constexpr std::uint64_t StringPiece = 64 * 1024;
 
 }  // namespace
 
+void WriteCount(cereal::PortableBinaryOutputArchive& archive, std::uint64_t count) {
+  WriteNumber(archive, count);
+}
+
+std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive) {
+  return ReadNumber<std::uint64_t>(archive);
+}
+
+void WriteString(cereal::PortableBinaryOutputArchive& archive, std::string const& value) {
+  WriteCount(archive, value.size());
+  archive.saveBinary<1>(value.data(), static_cast<std::streamsize>(value.size()));
+}
+
 bool ReadBool(cereal::PortableBinaryInputArchive& archive) {
   std::uint8_t const byte = ReadNumber<std::uint8_t>(archive);
   if (byte > 1) {

@@ -21,14 +21,16 @@ namespace ryx::object {
 
 namespace {
 
-// The type record at the current position, whatever its name.
-hash::MurmurThree32 ReadTypeId(cereal::JSONInputArchive& archive) {
+// The type record at the current position, whatever its name. Out of line,
+// like CannotRead, so that Load's frame, on the stack once per level, holds
+// none of their strings.
+[[gnu::noinline]] hash::MurmurThree32 ReadTypeId(cereal::JSONInputArchive& archive) {
   std::string name;
   archive(name);
   return hash::MurmurThree32::MakeData(boost::string_view(name));
 }
 
-hash::MurmurThree32 ReadTypeId(cereal::XMLInputArchive& archive) {
+[[gnu::noinline]] hash::MurmurThree32 ReadTypeId(cereal::XMLInputArchive& archive) {
   // The archive would step past the last child of the node.
   if (archive.getNodeName() == nullptr) {
     throw cereal::Exception("XML Parsing failed - the node holds no value to load");
@@ -38,14 +40,14 @@ hash::MurmurThree32 ReadTypeId(cereal::XMLInputArchive& archive) {
   return hash::MurmurThree32::MakeData(boost::string_view(name));
 }
 
-hash::MurmurThree32 ReadTypeId(cereal::PortableBinaryInputArchive& archive) {
+[[gnu::noinline]] hash::MurmurThree32 ReadTypeId(cereal::PortableBinaryInputArchive& archive) {
   return hash::MurmurThree32(detail::ReadNumber<std::uint32_t>(archive));
 }
 
 // A text document closes the value's node around what was not read; a binary
 // stream has no such frame, so a value it cannot read ends the load.
 template <class Archive>
-void CannotRead(hash::MurmurThree32 const& id) {
+[[gnu::noinline]] void CannotRead(hash::MurmurThree32 const& id) {
   if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive>) {
     if (id == hash::MurmurThree32()) {
       return;

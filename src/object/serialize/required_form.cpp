@@ -7,24 +7,29 @@
 
 #include <cereal/types/vector.hpp>
 
+#include "object/detail/nesting_guard.hpp"
+#include "object/detail/out_of_line.hpp"
+#include "object/serialize/detail/archive_stack.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
-#include "object/detail/nesting_guard.hpp"
 
 namespace ryx::object {
 
 template <class Archive>
 void CEREAL_SAVE_FUNCTION_NAME(Archive& archive, Required const& required) {
-  detail::NestingGuard const level(detail::Nesting::schema);
+  detail::NestingGuard const level(detail::Nesting::schema, detail::LaterStackPerSchema<Archive>);
+  // The type goes out of line: this frame is on the stack once per level.
   if constexpr (std::is_same_v<Archive, cereal::PortableBinaryOutputArchive>) {
-    detail::WriteNumber(archive, required.GetType().GetValue());
-    detail::WriteCount(archive, required.GetChildTypes().size());
+    detail::OutOfLine([&] {
+      detail::WriteNumber(archive, required.GetType().GetValue());
+      detail::WriteCount(archive, required.GetChildTypes().size());
+    });
     for (Required const& child : required.GetChildTypes()) {
       CEREAL_SAVE_FUNCTION_NAME(archive, child);
     }
   } else {
-    archive(cereal::make_nvp("type", required.GetType().GetValue()),
-            cereal::make_nvp("child_types", required.GetChildTypes()));
+    detail::OutOfLine([&] { archive(cereal::make_nvp("type", required.GetType().GetValue())); });
+    archive(cereal::make_nvp("child_types", required.GetChildTypes()));
   }
 }
 
@@ -34,11 +39,11 @@ void CEREAL_LOAD_FUNCTION_NAME(Archive& archive, Required& required) {
   unsigned int type = 0;
   std::vector<Required> children;
   if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive>) {
-    type = detail::ReadNumber<unsigned int>(archive);
+    type = detail::OutOfLine([&] { return detail::ReadNumber<unsigned int>(archive); });
     children = detail::ReadItems<Required>(
         archive, [](Archive& in, Required& child) { CEREAL_LOAD_FUNCTION_NAME(in, child); });
   } else {
-    archive(cereal::make_nvp("type", type));
+    detail::OutOfLine([&] { archive(cereal::make_nvp("type", type)); });
     // The text forms' counts are those of the parsed document.
     archive(cereal::make_nvp("child_types", children));
   }

@@ -9,6 +9,7 @@
 
 #include "object/detail/nesting_guard.hpp"
 #include "object/detail/registry_cache.hpp"
+#include "object/serialize/detail/archive_stack.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/save_value.hpp"
@@ -19,12 +20,18 @@ namespace ryx::object {
 namespace {
 
 template <class Archive>
-void WriteNullRecord(Archive& archive) {
+[[gnu::noinline]] void WriteNullRecord(Archive& archive) {
   archive(cereal::make_nvp("typename", std::string()));
 }
 
 void WriteNullRecord(cereal::PortableBinaryOutputArchive& archive) {
   detail::WriteNumber(archive, std::uint32_t(0));
+}
+
+// Out of line, so that SaveValue's frame, on the stack once per level, holds
+// no string.
+[[noreturn, gnu::noinline, gnu::cold]] void ThrowNoFunction(std::string const& name) {
+  throw std::runtime_error("No serialization function available: " + name);
 }
 
 }  // namespace
@@ -33,7 +40,7 @@ namespace detail {
 
 template <class Archive>
 void SaveValue(Archive& archive, Object const* object) {
-  NestingGuard const level(Nesting::value);
+  NestingGuard const level(Nesting::value, LaterStackPerValue<Archive>);
   if (object == nullptr) {
     WriteNullRecord(archive);
     return;
@@ -45,7 +52,7 @@ void SaveValue(Archive& archive, Object const* object) {
   SaveFunction<Archive> const& save =
       std::get<SaveFunction<Archive>>(record->info->GetSaveFunctions());
   if (!save) {
-    throw std::runtime_error("No serialization function available: " + record->name);
+    ThrowNoFunction(record->name);
   }
   save(*object, archive);
 }

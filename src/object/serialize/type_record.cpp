@@ -39,6 +39,10 @@ void ThrowTypeMismatch(std::string const& found, Object const& object) {
                            TypeNameOrNotRegistered(object.GetType()));
 }
 
+void WriteTypeRecord(cereal::PortableBinaryOutputArchive& archive, Object const& object) {
+  WriteNumber(archive, object.GetType().GetValue());
+}
+
 void ReadTypeRecord(cereal::PortableBinaryInputArchive& archive, Object& object) {
   if (object.GetOptions().Test(Option::deserializing)) {
     return;

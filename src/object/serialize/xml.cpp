@@ -4,6 +4,12 @@
 #include <ryx/object/nesting_limit.hpp>
 #include <ryx/object/serialize/save.hpp>
 
+#include <algorithm>
+#include <memory>
+#include <string>
+
+#include "object/detail/nesting_guard.hpp"
+#include "object/serialize/detail/archive_stack.hpp"
 #include "object/serialize/detail/handlers.hpp"
 #include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
@@ -28,26 +34,45 @@ std::size_t MaxXmlDepth() {
   return 1 + 3 * limit + 2 * limit + 2;
 }
 
+// Refuses a document the parser could not read within the nesting limit or
+// within the stack left on this thread.
+void CheckXmlDepth(std::string_view document) {
+  std::size_t const byLimit = MaxXmlDepth();
+  std::size_t const byStack = detail::StackLeft() / detail::XmlParseStackPerElement;
+  std::size_t const maxDepth = std::min(byLimit, byStack);
+  if (detail::XmlNestsDeeperThan(document, maxDepth)) {
+    throw NestingLimitError(
+        "XML elements are nested deeper than " + std::to_string(maxDepth) + " levels, " +
+        (byStack < byLimit ? std::string("more than the stack of this thread leaves room to parse")
+                           : "more than a document within the nesting limit of " +
+                                 std::to_string(GetNestingLimit()) + " levels holds"));
+  }
+}
+
 }  // namespace
+
+// The archives live on the heap: each holds the XML library's first 64 KiB
+// block of memory in place, a good part of a small thread's stack.
 
 std::string ToXml(std::shared_ptr<Object const> const& value) {
   detail::StringStream text;
   {
-    // The archive writes the document when it is destroyed.
-    cereal::XMLOutputArchive archive(text);
-    archive.saveValue(detail::ThrowFormattingFailures{});
-    Save(archive, value);
+    // The archive writes the document when it is destroyed, from this frame.
+    auto archive = std::make_unique<cereal::XMLOutputArchive>(text);
+    archive->saveValue(detail::ThrowFormattingFailures{});
+    Save(*archive, value);
   }
   return text.Take();
 }
 
-// The XML parser recurses once per element level: the depth is checked first.
+// The XML parser recurses once per element level: the depth is checked first,
+// against the nesting limit and against the stack left for the parser.
 std::shared_ptr<Object> FromXml(std::string_view document) {
-  detail::CheckXmlDepth(document, MaxXmlDepth());
+  CheckXmlDepth(document);
   detail::ViewStream in(document);
-  cereal::XMLInputArchive archive(in);
+  auto archive = std::make_unique<cereal::XMLInputArchive>(in);
   std::shared_ptr<Object> value;
-  Load(archive, value);
+  Load(*archive, value);
   return value;
 }
 

@@ -1,9 +1,5 @@
 #include "object/serialize/detail/xml_depth.hpp"
 
-#include <ryx/object/nesting_limit.hpp>
-
-#include <string>
-
 namespace ryx::object::detail {
 
 namespace {
@@ -152,14 +148,9 @@ class Scanner {
 
 }  // namespace
 
-void CheckXmlDepth(std::string_view document, std::size_t maxDepth) {
+bool XmlNestsDeeperThan(std::string_view document, std::size_t maxDepth) {
   // The parser stops at the first NUL byte.
-  std::size_t const depth = Scanner(document.substr(0, document.find('\0'))).Scan(maxDepth);
-  if (depth != 0) {
-    throw NestingLimitError("XML elements are nested deeper than " + std::to_string(maxDepth) +
-                            " levels, more than a document within the nesting limit of " +
-                            std::to_string(GetNestingLimit()) + " levels holds");
-  }
+  return Scanner(document.substr(0, document.find('\0'))).Scan(maxDepth) != 0;
 }
 
 }  // namespace ryx::object::detail

@@ -7,7 +7,7 @@
 // endianness byte other than 0 or 1 and the binary errors of Load,
 // NestingLimitError). Counts and lengths are never trusted: memory grows with
 // the bytes actually read, so a short stream claiming a huge count fails as
-// soon as the stream ends.
+// soon as the stream ends. Strings and keys keep every byte, NUL included.
 //
 // ToBinary and FromBinary write and read the library's own kinds directly;
 // for any other registered type, and for a stream in the other byte order,

@@ -13,6 +13,12 @@
 // registered save and load functions, as ToJsonThroughArchive and
 // FromJsonThroughArchive always do. Both paths give the same bytes, values and
 // errors; the second is slower, and is the reference the first is held to.
+//
+// Strings and keys keep every byte but NUL: the writer escapes it (\u0000),
+// the reader ends the string at its first NUL, so "a\0b" loads as "a" (the
+// binary form keeps every byte). Bytes that are not UTF-8 are copied as they
+// are. Non-finite doubles are written as the tokens NaN, Infinity and
+// -Infinity and read back: such documents are not strict JSON.
 #pragma once
 
 #include <ryx/object/export.hpp>

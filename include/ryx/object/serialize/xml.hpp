@@ -5,7 +5,21 @@
 // loads the value or throws (cereal::Exception for a malformed document, the
 // standard conversions' std::invalid_argument / std::out_of_range for bad
 // numbers, NestingLimitError for elements nested deeper than a valid document
-// within the nesting limit could be, or the errors of Load).
+// within the nesting limit could be, or than the parser has stack left for, or
+// the errors of Load).
+//
+// XML 1.0 holds tab, line feed, carriage return and every character from
+// U+0020 on, in UTF-8 here. Saving a string or dictionary key with another
+// control character, U+FFFE or U+FFFF, or bytes that are not UTF-8 throws
+// std::runtime_error naming the character and its offset, with ToXml and with
+// Save into any XML archive, instead of writing a document that XML parsers
+// reject. Every other string comes back as it was, blanks at either end
+// included (the writer marks them xml:space="preserve", which the reader
+// honours).
+//
+// The XML archive prints its document recursively when it is destroyed. A
+// Save into an archive of your own keeps stack free for that from the frame
+// Save was called in: destroy the archive no deeper in the stack.
 #pragma once
 
 #include <ryx/object/export.hpp>

@@ -33,14 +33,12 @@ T ReadNumber(cereal::PortableBinaryInputArchive& archive) {
   return value;
 }
 
-// A count or length, 8 bytes.
-inline void WriteCount(cereal::PortableBinaryOutputArchive& archive, std::uint64_t count) {
-  WriteNumber(archive, count);
-}
-
-inline std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive) {
-  return ReadNumber<std::uint64_t>(archive);
-}
+// A count or length, 8 bytes. Out of line, like WriteString, ReadString and
+// the binary type record: containers write and read them once per level of
+// nesting, and the archive's error texts would otherwise take stack on every
+// level below.
+void WriteCount(cereal::PortableBinaryOutputArchive& archive, std::uint64_t count);
+std::uint64_t ReadCount(cereal::PortableBinaryInputArchive& archive);
 
 // One byte, 0 or 1.
 inline void WriteBool(cereal::PortableBinaryOutputArchive& archive, bool value) {
@@ -50,10 +48,7 @@ inline void WriteBool(cereal::PortableBinaryOutputArchive& archive, bool value) 
 bool ReadBool(cereal::PortableBinaryInputArchive& archive);
 
 // Length (8 bytes), then the bytes.
-inline void WriteString(cereal::PortableBinaryOutputArchive& archive, std::string const& value) {
-  WriteCount(archive, value.size());
-  archive.template saveBinary<1>(value.data(), static_cast<std::streamsize>(value.size()));
-}
+void WriteString(cereal::PortableBinaryOutputArchive& archive, std::string const& value);
 std::string ReadString(cereal::PortableBinaryInputArchive& archive);
 
 // Room made ahead of the items a count claims.

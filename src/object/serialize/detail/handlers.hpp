@@ -22,6 +22,7 @@
 #include "object/serialize/detail/kind_forms.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/type_record.hpp"
+#include "object/serialize/detail/xml_text.hpp"
 
 namespace ryx::object {
 
@@ -62,6 +63,10 @@ void WriteValue(Archive& archive, T const& value) {
 
 template <class Archive, class T>
 void WriteValue(Archive& archive, Primitive<T, Object> const& value) {
+  if constexpr (std::is_same_v<Archive, cereal::XMLOutputArchive> &&
+                std::is_same_v<T, std::string>) {
+    CheckXmlText(value.Get(), "string");
+  }
   WriteTypeRecord(archive, value);
   WriteField(archive, value.Get());
 }

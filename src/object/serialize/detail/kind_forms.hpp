@@ -11,6 +11,10 @@
 // Loading reads everything into locals and changes the value only once all of
 // it was read. In the binary form a count never allocates ahead of the bytes
 // that back it (ReadItems, ReadString).
+//
+// These functions run once per level of nesting, so what does not recurse
+// (the schema, a key) is written and read out of line: its strings and
+// streams then take no stack on the levels below.
 #pragma once
 
 #include <ryx/object/array.hpp>
@@ -33,11 +37,13 @@
 
 #include <cereal/types/string.hpp>
 
+#include "object/detail/out_of_line.hpp"
 #include "object/detail/prefetch.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/save_value.hpp"
 #include "object/serialize/detail/type_record.hpp"
+#include "object/serialize/detail/xml_text.hpp"
 
 namespace ryx::object::detail {
 
@@ -114,7 +120,13 @@ struct SavedEntries {
 
     template <class Archive>
     void save(Archive& archive) const {
-      archive(cereal::make_nvp("key", key), cereal::make_nvp("value", SavedNode{value}));
+      OutOfLine([&] {
+        if constexpr (std::is_same_v<Archive, cereal::XMLOutputArchive>) {
+          CheckXmlText(key, "dictionary key");
+        }
+        archive(cereal::make_nvp("key", key));
+      });
+      archive(cereal::make_nvp("value", SavedNode{value}));
     }
   };
 };
@@ -141,7 +153,8 @@ struct LoadedEntries {
 
     template <class Archive>
     void load(Archive& archive) {
-      archive(cereal::make_nvp("key", key), cereal::make_nvp("value", LoadedNode{value}));
+      OutOfLine([&] { archive(cereal::make_nvp("key", key)); });
+      archive(cereal::make_nvp("value", LoadedNode{value}));
     }
   };
 };
@@ -181,7 +194,7 @@ inline Properties LoadBinaryEntries(cereal::PortableBinaryInputArchive& archive)
     std::string key = ReadString(archive);
     std::shared_ptr<Object> value;
     Load(archive, value);
-    properties.try_emplace(std::move(key), std::move(value));
+    OutOfLine([&] { properties.try_emplace(std::move(key), std::move(value)); });
   }
   return properties;
 }
@@ -198,8 +211,8 @@ void Array<Base>::Serialize(Archive& archive) const {
     CEREAL_SAVE_FUNCTION_NAME(archive, required);
     detail::SaveBinaryNodes(archive, objects);
   } else {
-    archive(cereal::make_nvp("required", required),
-            cereal::make_nvp("objects", detail::SavedNodes{objects}));
+    detail::OutOfLine([&] { archive(cereal::make_nvp("required", required)); });
+    archive(cereal::make_nvp("objects", detail::SavedNodes{objects}));
   }
 }
 
@@ -213,8 +226,8 @@ void Array<Base>::Serialize(Archive& archive) {
     CEREAL_LOAD_FUNCTION_NAME(archive, loadedRequired);
     loadedObjects = detail::LoadBinaryNodes(archive);
   } else {
-    archive(cereal::make_nvp("required", loadedRequired),
-            cereal::make_nvp("objects", detail::LoadedNodes{loadedObjects}));
+    detail::OutOfLine([&] { archive(cereal::make_nvp("required", loadedRequired)); });
+    archive(cereal::make_nvp("objects", detail::LoadedNodes{loadedObjects}));
   }
   // What the document holds, unchecked: loading restores, it does not build.
   swap(required, loadedRequired);
@@ -229,8 +242,8 @@ void Dictionary<Base>::Serialize(Archive& archive) const {
     detail::SaveBinaryEntries(archive, properties);
     CEREAL_SAVE_FUNCTION_NAME(archive, required);
   } else {
-    archive(cereal::make_nvp("properties", detail::SavedEntries{properties}),
-            cereal::make_nvp("required", required));
+    archive(cereal::make_nvp("properties", detail::SavedEntries{properties}));
+    detail::OutOfLine([&] { archive(cereal::make_nvp("required", required)); });
   }
 }
 
@@ -244,8 +257,8 @@ void Dictionary<Base>::Serialize(Archive& archive) {
     loadedProperties = detail::LoadBinaryEntries(archive);
     CEREAL_LOAD_FUNCTION_NAME(archive, loadedRequired);
   } else {
-    archive(cereal::make_nvp("properties", detail::LoadedEntries{loadedProperties}),
-            cereal::make_nvp("required", loadedRequired));
+    archive(cereal::make_nvp("properties", detail::LoadedEntries{loadedProperties}));
+    detail::OutOfLine([&] { archive(cereal::make_nvp("required", loadedRequired)); });
   }
   swap(required, loadedRequired);
   properties.swap(loadedProperties);

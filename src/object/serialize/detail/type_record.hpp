@@ -29,9 +29,7 @@ void WriteTypeRecord(Archive& archive, Object const& object) {
   object.Serialize(archive);
 }
 
-inline void WriteTypeRecord(cereal::PortableBinaryOutputArchive& archive, Object const& object) {
-  WriteNumber(archive, object.GetType().GetValue());
-}
+void WriteTypeRecord(cereal::PortableBinaryOutputArchive& archive, Object const& object);
 
 template <class Archive>
 void ReadTypeRecord(Archive& archive, Object& object) {

@@ -1,0 +1,139 @@
+// Every recursive operation, on threads with small stacks, at depths that
+// take more stack than they have: each must finish or throw
+// NestingLimitError, never overflow the stack.
+#include <ryx/object.hpp>
+
+#include <gtest/gtest.h>
+
+#include <pthread.h>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace ryx::object;
+
+// A chain of `depth` values, arrays and dictionaries in turn around an Int32.
+std::shared_ptr<Object> Nest(std::size_t depth) {
+  std::shared_ptr<Object> inner = std::make_shared<Int32>(1);
+  for (std::size_t level = 1; level < depth; ++level) {
+    if (level % 2 == 0) {
+      inner = std::make_shared<Array<Object>>(Array<Object>::Objects{std::move(inner)});
+    } else {
+      inner = std::make_shared<Dictionary<Object>>(
+          Dictionary<Object>::Properties{{"next", std::move(inner)}});
+    }
+  }
+  return inner;
+}
+
+// An empty array whose schema nests `depth` levels.
+std::shared_ptr<Object> NestSchema(std::size_t depth) {
+  Required schema(Object::TypeIdOf<Int32>());
+  for (std::size_t level = 1; level < depth; ++level) {
+    std::vector<Required> children;
+    children.push_back(std::move(schema));
+    schema = Required(Object::TypeIdOf<Array<Object>>(), std::move(children));
+  }
+  return std::make_shared<Array<Object>>(schema, Array<Object>::Objects{});
+}
+
+// What `call` ended with on a thread of `stackSize` bytes: "finished",
+// "refused" for NestingLimitError, or the text of another exception.
+std::string RunOnStack(std::size_t stackSize, std::function<void()> const& call) {
+  struct Run {
+    std::function<void()> const& call;
+    std::string outcome;
+  } run{call, "finished"};
+  auto const body = [](void* argument) -> void* {
+    Run& run = *static_cast<Run*>(argument);
+    try {
+      run.call();
+    } catch (NestingLimitError const&) {
+      run.outcome = "refused";
+    } catch (std::exception const& e) {
+      run.outcome = e.what();
+    }
+    return nullptr;
+  };
+  pthread_attr_t attributes;
+  pthread_attr_init(&attributes);
+  pthread_attr_setstacksize(&attributes, stackSize);
+  pthread_t thread;
+  EXPECT_EQ(pthread_create(&thread, &attributes, body, &run), 0);
+  pthread_attr_destroy(&attributes);
+  pthread_join(thread, nullptr);
+  return run.outcome;
+}
+
+// The documents are written on a thread with room for any of the depths,
+// without indentation, which would grow with the square of the depth.
+struct Documents {
+  std::string json;
+  std::string xml;
+  std::string binary;
+};
+
+Documents Write(std::shared_ptr<Object const> const& value) {
+  std::ostringstream json;
+  std::ostringstream xml;
+  std::string binary;
+  EXPECT_EQ(RunOnStack(64 << 20,
+                       [&] {
+                         cereal::JSONOutputArchive jsonArchive(
+                             json, cereal::JSONOutputArchive::Options::NoIndent());
+                         Save(jsonArchive, value);
+                         cereal::XMLOutputArchive xmlArchive(
+                             xml, cereal::XMLOutputArchive::Options().indent(false));
+                         Save(xmlArchive, value);
+                         binary = ToBinary(value);
+                       }),
+            "finished");
+  return {json.str(), xml.str(), binary};
+}
+
+struct Operation {
+  char const* name;
+  std::function<void(std::shared_ptr<Object> const&, Documents const&)> run;
+};
+
+Operation const operations[] = {
+    {"ToJson", [](auto const& value, auto const&) { ToJson(value); }},
+    {"FromJson", [](auto const&, auto const& documents) { FromJson(documents.json); }},
+    {"ToXml", [](auto const& value, auto const&) { ToXml(value); }},
+    {"FromXml", [](auto const&, auto const& documents) { FromXml(documents.xml); }},
+    {"ToBinary", [](auto const& value, auto const&) { ToBinary(value); }},
+    {"FromBinary", [](auto const&, auto const& documents) { FromBinary(documents.binary); }},
+    {"Copy", [](auto const& value, auto const&) { Object::Copy(*value); }},
+    {"EqualTo", [](auto const& value, auto const&) { static_cast<void>(value->EqualTo(*value)); }},
+    {"ToTemplateData", [](auto const& value, auto const&) { ToTemplateData(value); }},
+    // The renderer copies the tree again for each section it enters.
+    {"Render", [](auto const& value, auto const&) { Render("{{#objects}}.{{/objects}}", value); }},
+};
+
+TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
+  // Only the stack stops these depths.
+  SetNestingLimit(1000000);
+  for (std::size_t depth : {500, 999, 5000}) {
+    for (std::shared_ptr<Object> const& value : {Nest(depth), NestSchema(depth)}) {
+      Documents const documents = Write(value);
+      for (std::size_t stackSize : {128 << 10, 256 << 10}) {
+        for (Operation const& operation : operations) {
+          std::string const outcome =
+              RunOnStack(stackSize, [&] { operation.run(value, documents); });
+          EXPECT_TRUE(outcome == "finished" || outcome == "refused")
+              << operation.name << " at depth " << depth << " on " << (stackSize >> 10)
+              << " KiB: " << outcome;
+        }
+      }
+    }
+  }
+  SetNestingLimit(DefaultNestingLimit);
+}
+
+}  // namespace
