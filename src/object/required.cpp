@@ -44,6 +44,34 @@ void Required::ThrowSizeMismatch() {
       "Array size must be the same as Required size for Required with null type.");
 }
 
+// Children that have children of their own move onto a side stack, so that
+// every schema goes once its children are leaves. When the side stack cannot
+// grow, what is left is released recursively instead.
+void Required::ReleaseNested(std::vector<Required>& children) noexcept {
+  auto const hasChildren = [](Required const& child) { return !child.childTypes.empty(); };
+  if (std::none_of(children.begin(), children.end(), hasChildren)) {
+    return;
+  }
+  try {
+    std::vector<Required> pending;
+    auto const takeNested = [&](std::vector<Required>& level) {
+      for (Required& child : level) {
+        if (hasChildren(child)) {
+          pending.push_back(std::move(child));
+        }
+      }
+    };
+    takeNested(children);
+    children.clear();
+    while (!pending.empty()) {
+      std::vector<Required> level = std::move(pending.back().childTypes);
+      pending.pop_back();
+      takeNested(level);
+    }
+  } catch (...) {
+  }
+}
+
 Required::Required(Required const& other) : type(other.type) {
   detail::NestingGuard const level(detail::Nesting::schema);
   childTypes = other.childTypes;
@@ -114,6 +142,7 @@ std::shared_ptr<Object> Required::Make() const {
 }
 
 std::ostream& operator<<(std::ostream& os, Required const& required) {
+  detail::NestingGuard const level(detail::Nesting::schema);
   os << "{\"types\":[";
   bool first = true;
   for (Required const& child : required.childTypes) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -32,6 +33,12 @@ TEST(Nesting, ReleasingAMillionLevelsDoesNotOverflowTheStack) {
   for (Shape shape : {Shape::Arrays, Shape::Dictionaries, Shape::Mixed}) {
     std::shared_ptr<Object> deep = Nest(1000000, shape);
     deep.reset();
+  }
+  Required schema(Object::TypeIdOf<Int32>());
+  for (int level = 0; level < 1000000; ++level) {
+    std::vector<Required> children;
+    children.push_back(std::move(schema));
+    schema = Required(Object::TypeIdOf<Array<Object>>(), std::move(children));
   }
 }
 

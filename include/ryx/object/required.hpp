@@ -51,7 +51,12 @@ public:
     swap(*this, other);
     return *this;
   }
-  ~Required() = default;
+  // Releasing never recurses, however deep a hand-built schema is nested.
+  ~Required() {
+    if (!childTypes.empty()) {
+      ReleaseNested(childTypes);
+    }
+  }
 
   friend void swap(Required& a, Required& b) noexcept {
     a.childTypes.swap(b.childTypes);
@@ -104,7 +109,8 @@ public:
   std::shared_ptr<Object> Make() const;
 
   // A diagnostic text, not a serialized form:
-  // {"types":[<children>], "type:"<type name or id>}
+  // {"types":[<children>], "type:"<type name or id>}. A schema nested too deep
+  // for the nesting limit or the stack throws NestingLimitError.
   friend RYX_OBJECT_EXPORT std::ostream& operator<<(std::ostream& os, Required const& required);
 
 private:
@@ -122,6 +128,7 @@ private:
     (IsPerPosition() ? childTypes[index] : *this).CheckPointer(element);
   }
   void CheckPointer(Object const* object) const;
+  static void ReleaseNested(std::vector<Required>& children) noexcept;
   void CheckChildren() const;
   [[noreturn]] static void ThrowSizeMismatch();
 
