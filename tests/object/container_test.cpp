@@ -54,7 +54,14 @@ TEST(Containers, CopyAndCompareANullElementLeftByLoading) {
   }
   EXPECT_EQ(Object::Copy(array)->As<Array<Object>>().Get(1), nullptr);
   EXPECT_EQ(Object::Copy(dictionary)->As<Dictionary<Object>>().Get("b"), nullptr);
-  EXPECT_FALSE(array.EqualTo(Array<Object>(Objects{MakeInt(1), MakeInt(2)})));
+  // A null element equals only a null element, from either side.
+  Array<Object> const arrayOfValues(Objects{MakeInt(1), MakeInt(2)});
+  Dictionary<Object> const dictionaryOfValues(DictionaryId(), Int32Schema,
+                                              Properties{{"a", MakeInt(1)}, {"b", MakeInt(2)}});
+  EXPECT_FALSE(array.EqualTo(arrayOfValues));
+  EXPECT_FALSE(arrayOfValues.EqualTo(array));
+  EXPECT_FALSE(dictionary.EqualTo(dictionaryOfValues));
+  EXPECT_FALSE(dictionaryOfValues.EqualTo(dictionary));
 }
 
 TEST(Array, ConstructionChecksEveryElement) {
@@ -274,6 +281,7 @@ TEST(Property, HoldsAKeyAndANonNullObject) {
   auto const value = MakeInt(1);
   dictionary::Property property("k", value);
   EXPECT_EQ(property.GetKey(), "k");
+  EXPECT_EQ(property.GetObject(), value);  // a copy: the property keeps its own
   EXPECT_EQ(std::move(property).GetObject(), value);
   EXPECT_EQ(MessageOf<std::invalid_argument>([] { dictionary::Property("k", nullptr); }),
             "Cannot create a property with a null object pointer");

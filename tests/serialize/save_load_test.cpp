@@ -109,9 +109,8 @@ TEST_F(SaveLoad, SavingAnUnregisteredTypeOrWithoutAFunctionNamesTheType) {
   std::ostringstream text;
   cereal::JSONOutputArchive archive(text);
   Unregistered const stray;
-  std::string const message = MessageOf<std::logic_error>([&] { stray.Serialize(archive); });
-  EXPECT_EQ(message.find("The class has not been registered: "), 0u) << message;
-  EXPECT_NE(message.find("Unregistered"), std::string::npos) << message;
+  EXPECT_EQ(MessageOf<std::logic_error>([&] { stray.Serialize(archive); }),
+            "The class has not been registered: ryx::object::testing::Unregistered");
   // The test kind has no template-data function.
   EXPECT_EQ(MessageOf<std::runtime_error>([] { ToTemplateData(test::MakeBoxes(1)); }),
             std::string("No serialization function available: ") + test::BoxName);

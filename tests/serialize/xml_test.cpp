@@ -57,8 +57,11 @@ TEST(XmlForm, CountsElementsHiddenBehindMarkupTheParserReadsAsElements) {
   EXPECT_THROW(FromXml("<cereal><a\"" + deep + "\">"), NestingLimitError);
   EXPECT_THROW(FromXml("<cereal><b c='>'>" + deep), NestingLimitError);
   EXPECT_THROW(FromXml("<?xml version='?>' ?><cereal>" + deep), NestingLimitError);
-  // Comments hold no elements.
+  // A document type's bracketed part may quote '>' and "<!--".
+  EXPECT_THROW(FromXml("<!DOCTYPE x [<!ENTITY e '><!--'>]><cereal>" + deep), NestingLimitError);
+  // Comments and character data hold no elements.
   EXPECT_THROW(FromXml("<cereal><!--" + deep + "--></cereal>"), cereal::Exception);
+  EXPECT_THROW(FromXml("<cereal><![CDATA[" + deep + "]]></cereal>"), cereal::Exception);
 }
 
 TEST(XmlForm, ParsesTheDeepestDocumentTheDepthCheckLetsThrough) {
