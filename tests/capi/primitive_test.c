@@ -29,15 +29,15 @@ typedef struct Family {
 } Family;
 
 /* The Get and Convert adapters: read into a CType, then name the sample. */
-#define READER(Kind, CType, Operation, Handle)                                \
-  static RyxObjectStatus Kind##Operation(Handle object, int* sample) {        \
-    CType read;                                                               \
-    RyxObjectStatus status;                                                   \
-    if (sample == NULL) return RyxObject##Kind##Operation(object, NULL);      \
-    memset(&read, 0x5A, sizeof read);                                         \
-    status = RyxObject##Kind##Operation(object, &read);                       \
-    *sample = Kind##Which(&read);                                             \
-    return status;                                                            \
+#define READER(Kind, CType, Operation, Handle)                           \
+  static RyxObjectStatus Kind##Operation(Handle object, int* sample) {   \
+    CType read;                                                          \
+    RyxObjectStatus status;                                              \
+    if (sample == NULL) return RyxObject##Kind##Operation(object, NULL); \
+    memset(&read, 0x5A, sizeof read);                                    \
+    status = RyxObject##Kind##Operation(object, &read);                  \
+    *sample = Kind##Which(&read);                                        \
+    return status;                                                       \
   }
 
 /* Reads are compared byte for byte, so a NaN sample must come back unchanged. */
@@ -98,10 +98,25 @@ static Family const Families[] = {
 /* A family of another kind, for the wrong-type paths. */
 static Family const* OtherThan(size_t index) { return &Families[(index + 1) % FAMILY_COUNT]; }
 
-static char const* Message(char const* format, char const* a, char const* b, char const* c) {
-  static char text[256];
-  snprintf(text, sizeof text, format, a, b, c);
-  return text;
+/* Checks a failed call's status and the one message it logged: for
+ * RyxObjectStatusInvalidParameter `detail` names the NULL parameter, for
+ * RyxObjectStatusIncorrectType it is the name of the type given. */
+#define CHECK_FAILED(expected, actual, family, operation, detail) \
+  CheckFailedAt(__LINE__, expected, actual, family, operation, detail)
+static void CheckFailedAt(int line, RyxObjectStatus expected, RyxObjectStatus actual,
+                          Family const* f, char const* operation, char const* detail) {
+  char message[256];
+  if (expected == RyxObjectStatusInvalidParameter) {
+    snprintf(message, sizeof message, "RyxObject%s%s: the %s parameter was NULL", f->kind,
+             operation, detail);
+  } else {
+    snprintf(message, sizeof message, "RyxObject%s%s: the object parameter was not a %s: %s",
+             f->kind, operation, f->typeName, detail);
+  }
+  if (actual != expected) {
+    CheckFailed(__FILE__, line, "the status");
+  }
+  CheckLoggedAt(__FILE__, line, message);
 }
 
 static void EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle(void) {
@@ -129,92 +144,55 @@ static void EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle(void) {
     RyxObjectRelease(second);
     RyxObjectRelease(object);
     RyxObjectRelease(other);
-    CHECK_SILENT();
   }
 }
 
-static void NullParametersAreRefusedByNameTheObjectFirst(void) {
+/* The handle is tested first, then the output pointer, then the kind; a
+ * failure writes nothing and changes no value. Convert consumes its handle on
+ * every path but a NULL one, and still delivers the value of a last handle. */
+static void FailuresAreReportedInOrderAndConvertConsumesItsHandle(void) {
   size_t i;
   for (i = 0; i < FAMILY_COUNT; ++i) {
     Family const* const f = &Families[i];
+    Family const* const other = OtherThan(i);
     RyxObject* const object = f->create(1);
+    RyxObject* const wrong = other->create(0);
     int sample = Other;
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->set(NULL, 0));
-    CHECK_LOGGED(Message("RyxObject%sSet: the object parameter was NULL", f->kind, 0, 0));
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(NULL, NULL));
-    CHECK_LOGGED(Message("RyxObject%sGet: the object parameter was NULL", f->kind, 0, 0));
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(NULL, &sample));
-    CHECK_LOGGED(Message("RyxObject%sConvert: the object parameter was NULL", f->kind, 0, 0));
+    CHECK_FAILED(RyxObjectStatusInvalidParameter, f->set(NULL, 0), f, "Set", "object");
+    CHECK_FAILED(RyxObjectStatusInvalidParameter, f->get(NULL, NULL), f, "Get", "object");
+    CHECK_FAILED(RyxObjectStatusInvalidParameter, f->convert(NULL, &sample), f, "Convert",
+                 "object");
+    CHECK_FAILED(RyxObjectStatusInvalidParameter, f->get(object, NULL), f, "Get", "value");
+    CHECK_FAILED(RyxObjectStatusInvalidParameter, f->convert(RyxObjectReference(object), NULL), f,
+                 "Convert", "value");
+    CHECK_FAILED(RyxObjectStatusIncorrectType, f->get(wrong, &sample), f, "Get", other->typeName);
     CHECK(sample == Untouched);
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->get(object, NULL));
-    CHECK_LOGGED(Message("RyxObject%sGet: the value parameter was NULL", f->kind, 0, 0));
-    CHECK(RyxObjectReferenceCount(object) == 1);
-    CHECK_STATUS(RyxObjectStatusSuccess, f->get(object, &sample));
-    CHECK(sample == 1);
-    RyxObjectRelease(object);
-  }
-}
-
-static void AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue(void) {
-  size_t i;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    Family const* const f = &Families[i];
-    Family const* const other = OtherThan(i);
-    RyxObject* const object = other->create(0);
-    int sample = Other;
-    CHECK_STATUS(RyxObjectStatusIncorrectType, f->get(object, &sample));
-    CHECK_LOGGED(Message("RyxObject%sGet: the object parameter was not a %s: %s", f->kind,
-                         f->typeName, other->typeName));
+    CHECK_FAILED(RyxObjectStatusIncorrectType, f->set(wrong, 1), f, "Set", other->typeName);
+    CHECK_FAILED(RyxObjectStatusIncorrectType, f->convert(RyxObjectReference(wrong), &sample), f,
+                 "Convert", other->typeName);
     CHECK(sample == Untouched);
-    CHECK_STATUS(RyxObjectStatusIncorrectType, f->set(object, 1));
-    CHECK_LOGGED(Message("RyxObject%sSet: the object parameter was not a %s: %s", f->kind,
-                         f->typeName, other->typeName));
-    CHECK_STATUS(RyxObjectStatusSuccess, other->get(object, &sample));
+    CHECK(RyxObjectReferenceCount(object) == 1 && RyxObjectReferenceCount(wrong) == 1);
+    CHECK_STATUS(RyxObjectStatusSuccess, other->get(wrong, &sample));
     CHECK(sample == 0);
-    RyxObjectRelease(object);
-  }
-}
-
-/* Convert releases the handle it is given on success and on every failure
- * but a null object, and still delivers the value of a last handle. */
-static void ConvertConsumesTheHandleOnEveryPath(void) {
-  size_t i;
-  for (i = 0; i < FAMILY_COUNT; ++i) {
-    Family const* const f = &Families[i];
-    Family const* const other = OtherThan(i);
-    RyxObject* keep = f->create(1);
-    int sample = Other;
-    CHECK_STATUS(RyxObjectStatusSuccess, f->convert(RyxObjectReference(keep), &sample));
-    CHECK(sample == 1);
-    CHECK(RyxObjectReferenceCount(keep) == 1);
-    /* A null output pointer is tested after the handle is consumed. */
-    CHECK_STATUS(RyxObjectStatusInvalidParameter, f->convert(RyxObjectReference(keep), NULL));
-    CHECK_LOGGED(Message("RyxObject%sConvert: the value parameter was NULL", f->kind, 0, 0));
-    CHECK(RyxObjectReferenceCount(keep) == 1);
+    CHECK_STATUS(RyxObjectStatusSuccess, f->convert(RyxObjectReference(object), &sample));
+    CHECK(sample == 1 && RyxObjectReferenceCount(object) == 1);
     sample = Other;
-    CHECK_STATUS(RyxObjectStatusSuccess, f->convert(keep, &sample));
+    CHECK_STATUS(RyxObjectStatusSuccess, f->convert(object, &sample));
     CHECK(sample == 1);
-
-    keep = other->create(0);
-    sample = Other;
-    CHECK_STATUS(RyxObjectStatusIncorrectType, f->convert(RyxObjectReference(keep), &sample));
-    CHECK_LOGGED(Message("RyxObject%sConvert: the object parameter was not a %s: %s", f->kind,
-                         f->typeName, other->typeName));
-    CHECK(sample == Untouched);
-    CHECK(RyxObjectReferenceCount(keep) == 1);
-    RyxObjectRelease(keep);
+    RyxObjectRelease(wrong);
   }
 }
 
 static void CreateReportsAFailedAllocationOfTheValueOrOfTheHandle(void) {
   size_t i;
   int nth;
+  char message[128];
   for (i = 0; i < FAMILY_COUNT; ++i) {
+    snprintf(message, sizeof message, "RyxObject%sCreate: failed to create %s: std::bad_alloc",
+             Families[i].kind, Families[i].createWords);
     for (nth = 1; nth <= 2; ++nth) {
       FailNthAllocation(nth);
-      CHECK(Families[i].create(0) == NULL);
-      CHECK_LOGGED(Message("RyxObject%sCreate: failed to create %s: std::bad_alloc",
-                           Families[i].kind, Families[i].createWords, 0));
+      CHECK_REPORTED(Families[i].create(0) == NULL, message);
     }
   }
   FailNthAllocation(0);
@@ -222,9 +200,7 @@ static void CreateReportsAFailedAllocationOfTheValueOrOfTheHandle(void) {
 
 TestCase const PrimitiveTests[] = {
     TEST_CASE(EveryKindCreatesReadsAndSetsItsValueThroughEveryHandle),
-    TEST_CASE(NullParametersAreRefusedByNameTheObjectFirst),
-    TEST_CASE(AnotherKindIsRefusedNamingBothTypesAndKeepsItsValue),
-    TEST_CASE(ConvertConsumesTheHandleOnEveryPath),
+    TEST_CASE(FailuresAreReportedInOrderAndConvertConsumesItsHandle),
     TEST_CASE(CreateReportsAFailedAllocationOfTheValueOrOfTheHandle),
 };
 size_t const PrimitiveTestCount = sizeof PrimitiveTests / sizeof PrimitiveTests[0];

@@ -44,7 +44,6 @@ static void SavedDocumentsLoadBackAndSaveAlikeInEveryForm(void) {
     RyxObjectRelease(loaded);
   }
   RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
 /* The null record, and a text document naming a type nobody registered,
@@ -73,39 +72,18 @@ static void TheNullRecordAndUnknownTypesLoadAsNull(void) {
     }
   }
   RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
-static void NullPointersAndUnknownFormsAreRefusedLeavingTheOutputs(void) {
+static void UnknownFormsAreRefusedLeavingTheOutputs(void) {
   RyxObject* const record = MakeRecord();
   RyxObject* loaded = record;
   char* data = unwritten;
   size_t size = UNWRITTEN_SIZE;
-
-  CHECK_STATUS(RyxObjectStatusInvalidParameter,
-               RyxObjectSave(record, RyxObjectFormJson, NULL, &size));
-  CHECK_LOGGED("RyxObjectSave: the data parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter,
-               RyxObjectSave(record, RyxObjectFormJson, &data, NULL));
-  CHECK_LOGGED("RyxObjectSave: the size parameter was NULL");
   CHECK_STATUS(RyxObjectStatusInvalidParameter,
                RyxObjectSave(record, (RyxObjectForm)3, &data, &size));
   CHECK_LOGGED("RyxObjectSave: the form parameter was not a RYX form: 3");
-
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad(RyxObjectFormJson, NULL, 0, &loaded));
-  CHECK_LOGGED("RyxObjectLoad: the data parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad(RyxObjectFormJson, "{}", 2, NULL));
-  CHECK_LOGGED("RyxObjectLoad: the object parameter was NULL");
   CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad((RyxObjectForm)-1, "{}", 2, &loaded));
   CHECK_LOGGED("RyxObjectLoad: the form parameter was not a RYX form: -1");
-
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectRender(NULL, record, &data, &size));
-  CHECK_LOGGED("RyxObjectRender: the mustache parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectRender("", record, NULL, &size));
-  CHECK_LOGGED("RyxObjectRender: the text parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectRender("", record, &data, NULL));
-  CHECK_LOGGED("RyxObjectRender: the size parameter was NULL");
-
   CHECK(data == unwritten && size == UNWRITTEN_SIZE && loaded == record);
   RyxObjectRelease(record);
 }
@@ -162,7 +140,6 @@ static void RenderFillsTheTemplateFromTheValue(void) {
   CHECK(text != NULL && strcmp(text, "[]") == 0 && size == 2);
   free(text);
   RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
 /* The three functions behind one signature, for the allocation test. */
@@ -243,13 +220,12 @@ static void RunningOutOfMemoryIsReportedAndLeavesTheOutputs(void) {
     free(document);
   }
   RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
 TestCase const SerializeTests[] = {
     TEST_CASE(SavedDocumentsLoadBackAndSaveAlikeInEveryForm),
     TEST_CASE(TheNullRecordAndUnknownTypesLoadAsNull),
-    TEST_CASE(NullPointersAndUnknownFormsAreRefusedLeavingTheOutputs),
+    TEST_CASE(UnknownFormsAreRefusedLeavingTheOutputs),
     TEST_CASE(BadDocumentsAndUnsavableValuesFailWithTheReason),
     TEST_CASE(RenderFillsTheTemplateFromTheValue),
     TEST_CASE(RunningOutOfMemoryIsReportedAndLeavesTheOutputs),
