@@ -37,18 +37,23 @@ static void AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased(void) {
   RyxObjectRelease(empty);
 }
 
+/* The codes are the numbers 0 to 5, each with its own message. */
 static void StatusMessagesCoverEveryValue(void) {
-  static char const* const expected[] = {
-      "The RYX API operation was a success",
-      "A general failure occurred, check the logging file for more information",
-      "A parameter for the RYX API call was invalid, check the logging file for more information",
-      "An object was the incorrect type for the RYX API",
-      "An argument was out of range in the API call",
-      "Failed to allocate memory insdie the API function",
+  static char const* const expected[6] = {
+      [RyxObjectStatusSuccess] = "The RYX API operation was a success",
+      [RyxObjectStatusFailure] =
+          "A general failure occurred, check the logging file for more information",
+      [RyxObjectStatusInvalidParameter] =
+          "A parameter for the RYX API call was invalid, check the logging file for more "
+          "information",
+      [RyxObjectStatusIncorrectType] = "An object was the incorrect type for the RYX API",
+      [RyxObjectStatusOutOfRange] = "An argument was out of range in the API call",
+      [RyxObjectStatusAllocationFailure] = "Failed to allocate memory insdie the API function",
   };
   int status;
-  for (status = RyxObjectStatusSuccess; status <= RyxObjectStatusAllocationFailure; ++status) {
-    CHECK(strcmp(RyxObjectStatusMessage(status), expected[status]) == 0);
+  for (status = 0; status < 6; ++status) {
+    CHECK(expected[status] != NULL &&
+          strcmp(RyxObjectStatusMessage(status), expected[status]) == 0);
   }
   CHECK(strcmp(RyxObjectStatusMessage(-1), "The status was negative") == 0);
   CHECK(strcmp(RyxObjectStatusMessage(6),
