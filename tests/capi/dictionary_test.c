@@ -88,6 +88,7 @@ static void KeysAndObjectsCanBeFoundRemovedAndPopped(void) {
   CHECK_LOGGED("RyxObjectDictPopObject: could not get array object: Key was not found in the dictionary: missing");
   popped = RyxObjectDictPopObject(dictionary, "");
   CHECK(popped != NULL && RyxObjectReferenceCount(second) == 2);
+  CHECK(!RyxObjectDictContainsObject(dictionary, popped));
   RyxObjectRelease(popped);
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictErase(dictionary, "b"));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectDictReserve(dictionary, 64));

@@ -87,6 +87,8 @@ static void NullParametersAreNamedAndAnObjectNotConsumed(void) {
   CHECK_NULL("object", RyxObjectArraySetObject, NULL, 0, object);
   CHECK_REPORTED(RyxObjectArraySize(NULL) == 0,
                  "RyxObjectArraySize: the object parameter was NULL");
+  CHECK_REPORTED(RyxObjectArrayCapacity(NULL) == 0,
+                 "RyxObjectArrayCapacity: the object parameter was NULL");
   CHECK_REPORTED(RyxObjectDictSize(NULL) == 0, "RyxObjectDictSize: the object parameter was NULL");
   CHECK_NULL("data", RyxObjectSave, text, RyxObjectFormJson, NULL, &size);
   CHECK_NULL("size", RyxObjectSave, text, RyxObjectFormJson, &data, NULL);

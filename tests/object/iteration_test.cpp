@@ -42,7 +42,9 @@ TEST(Iteration, WalksASequenceInIndexOrderWithCopiesThatAdvanceIndependently) {
   EXPECT_EQ(converted->As<Int32>().Get(), 0);
   EXPECT_EQ(copy->As<Int32>().Get(), 1);
   EXPECT_EQ((++copy)->As<Int32>().Get(), 2);
-  EXPECT_EQ(ConstIterator(Iterator(nullptr, objects[1]))->As<Int32>().Get(), 1);
+  ConstIterator single = Iterator(nullptr, objects[1]);  // no generator: one element
+  EXPECT_EQ(single->As<Int32>().Get(), 1);
+  EXPECT_TRUE(++single == ConstIterator());
   Objects empty;
   EXPECT_TRUE(container::Begin(empty) == Iterator());
 }

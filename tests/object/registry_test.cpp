@@ -50,13 +50,13 @@ TEST(Registry, AnswersUnknownIdsWithEmptyResults) {
   SaveFunctions const save = Object::GetSaveFunctions(unknown);
   EXPECT_FALSE(std::get<3>(save));
   // Printed, each function by its form.
-  LoadFunctions binaryOnly = Object::GetLoadFunctions(unknown);
-  std::get<2>(binaryOnly) = std::get<2>(Object::GetLoadFunctions(Object::TypeIdOf<Int32>()));
+  LoadFunctions const known = Object::GetLoadFunctions(Object::TypeIdOf<Int32>());
+  LoadFunctions const someForms(std::get<0>(known), nullptr, std::get<2>(known));
   std::ostringstream os;
-  os << save << ' ' << binaryOnly;
+  os << save << ' ' << someForms;
   EXPECT_EQ(os.str(),
             "{\"xml\":false,\"json\":false,\"binary\":false} "
-            "{\"xml\":false,\"json\":false,\"binary\":true}");
+            "{\"xml\":true,\"json\":false,\"binary\":true}");
 }
 
 TEST(Registry, KeepsTheFirstRecordOfAnIdUntilItIsDeregistered) {

@@ -92,6 +92,8 @@ TEST_F(SaveLoad, RefusesSchemasNestedDeeperThanTheLimit) {
   Required loaded;
   EXPECT_THROW(input(cereal::make_nvp("required", loaded)), NestingLimitError);
   EXPECT_EQ(GetNestingLimit(), 3u);
+  SetNestingLimit(0);  // taken as 1
+  EXPECT_EQ(GetNestingLimit(), 1u);
 }
 
 TEST_F(SaveLoad, SavingAnotherKindAnUnregisteredTypeOrWithoutAFunctionFails) {
