@@ -49,12 +49,16 @@ void ForgetLogs(void);
 #define CHECK_NOT_A(expected, actual, function, ...)                    \
   CHECK_REPORTED(function(__VA_ARGS__) == RyxObjectStatusIncorrectType, \
                  #function ": the object parameter was not a " expected ": " actual)
+/* Any other failure: `result` and "<function>: <action>: <reason>". */
+#define CHECK_FAILS(result, reason, function, ...) \
+  CHECK_REPORTED(function(__VA_ARGS__) == (result), #function ": " reason)
 
 /* The value of an Int32 handle, checking that it could be read. */
 int32_t Int32Of(RyxObject const* handle);
 
 /* An entry of a test table, named after its function. */
-#define TEST_CASE(function) {#function, function}
+#define TEST_CASE(function) \
+  { #function, function }
 
 /* The test tables of the test files. */
 #define DECLARE_TESTS(Group)            \

@@ -2,12 +2,10 @@
 // nothing, ownership of the elements, deep copies and comparison.
 #include "support.hpp"
 
-#include <algorithm>
 #include <initializer_list>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -188,18 +186,6 @@ TEST(Array, RequiredMakesAnEmptyArrayCarryingASingleChildAsItsSchema) {
   auto const perPosition = Required(ArraySchema.GetType(), {pair}).Make();
   ASSERT_TRUE(perPosition);
   EXPECT_EQ(perPosition->GetRequired(), pair);
-}
-
-TEST(Dictionary, WalksEachValueOnceAndNeverAKey) {
-  auto const a = MakeInt(1), b = MakeInt(2), c = MakeString("c");
-  std::vector<Object const*> seen;
-  for (Object const& value : Dictionary<Object>(Properties{{"a", a}, {"b", b}, {"c", c}})) {
-    seen.push_back(&value);
-  }
-  std::vector<Object const*> expected{a.get(), b.get(), c.get()};
-  std::sort(seen.begin(), seen.end());
-  std::sort(expected.begin(), expected.end());
-  EXPECT_EQ(seen, expected);
 }
 
 // Construction refuses null values but does not check the schema; Insert

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -66,21 +65,6 @@ TEST(XmlForm, CountsElementsHiddenBehindMarkupTheParserReadsAsElements) {
 
 TEST(XmlForm, ParsesTheDeepestDocumentTheDepthCheckLetsThrough) {
   EXPECT_THROW(FromXml("<cereal>" + Repeated("<a>", 5000)), cereal::Exception);
-}
-
-TEST(XmlForm, WritesTypeAttributesWhenTheArchiveAsksForThem) {
-  std::ostringstream text;
-  {
-    cereal::XMLOutputArchive archive(text, cereal::XMLOutputArchive::Options().outputType(true));
-    Save(archive, std::make_shared<Int16>(3));
-    archive(cereal::make_nvp("required", Required(Object::TypeIdOf<Int16>())));
-  }
-  std::string const xml = text.str();
-  for (char const* part :
-       {"<value type=\"short\">3</value>", "<required type=\"ryx::object::Required\">",
-        "<type type=\"unsigned int\">", "size=\"dynamic\"/>"}) {
-    EXPECT_NE(xml.find(part), std::string::npos) << part << " in " << xml;
-  }
 }
 
 }  // namespace
