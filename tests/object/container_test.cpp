@@ -2,12 +2,10 @@
 // nothing, ownership of the elements, deep copies and comparison.
 #include "support.hpp"
 
-#include <algorithm>
 #include <initializer_list>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -20,23 +18,6 @@ ryx::hash::MurmurThree32 DictionaryId() { return Object::TypeIdOf<Dictionary<Obj
 std::string const NullObject = "Must provide a non-null object pointer";
 std::string const SizeMismatch =
     "Array size must be the same as Required size for Required with null type.";
-
-std::vector<Object const*> ElementsOf(Object const& container) {
-  std::vector<Object const*> elements;
-  for (Object const& element : container) {
-    elements.push_back(&element);
-  }
-  return elements;
-}
-
-TEST(Containers, StartEmptyUnderTheDefaultSchema) {
-  for (auto const id : {ArraySchema.GetType(), DictionaryId()}) {
-    auto const made = Object::Make(id);
-    ASSERT_TRUE(made);
-    EXPECT_EQ(made->GetRequired(), Required());
-    EXPECT_TRUE(made->Begin() == made->End());
-  }
-}
 
 // What loading a null record leaves behind: an empty slot, which copies and
 // compares like any other element.
@@ -54,10 +35,78 @@ TEST(Containers, CopyAndCompareANullElementLeftByLoading) {
   }
   EXPECT_EQ(Object::Copy(array)->As<Array<Object>>().Get(1), nullptr);
   EXPECT_EQ(Object::Copy(dictionary)->As<Dictionary<Object>>().Get("b"), nullptr);
-  EXPECT_FALSE(array.EqualTo(Array<Object>(Objects{MakeInt(1), MakeInt(2)})));
+  // A null element equals only a null element, from either side.
+  Array<Object> const arrayOfValues(Objects{MakeInt(1), MakeInt(2)});
+  Dictionary<Object> const dictionaryOfValues(DictionaryId(), Int32Schema,
+                                              Properties{{"a", MakeInt(1)}, {"b", MakeInt(2)}});
+  EXPECT_FALSE(array.EqualTo(arrayOfValues));
+  EXPECT_FALSE(arrayOfValues.EqualTo(array));
+  EXPECT_FALSE(dictionary.EqualTo(dictionaryOfValues));
+  EXPECT_FALSE(dictionaryOfValues.EqualTo(dictionary));
 }
 
-TEST(Array, ConstructionChecksEveryElement) {
+TEST(Containers, CompareSizesKeysElementsAndSchemasButNotOtherKinds) {
+  Array<Object> const array(Objects{MakeInt(1), MakeString("x")});
+  Dictionary<Object> const dictionary(Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}});
+  Required const pair{Int32Schema, StringSchema};
+  EXPECT_TRUE(array.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("x")})));
+  EXPECT_TRUE(dictionary.EqualTo(
+      Dictionary<Object>(Properties{{"y", MakeString("s")}, {"x", MakeInt(1)}})));
+  EXPECT_FALSE(array.EqualTo(Array<Object>(Objects{MakeInt(1)})));
+  EXPECT_FALSE(array.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("y")})));
+  EXPECT_FALSE(array.EqualTo(Array<Object>(pair, {MakeInt(1), MakeString("x")})));
+  EXPECT_FALSE(dictionary.EqualTo(
+      Dictionary<Object>(Properties{{"x", MakeInt(1)}, {"z", MakeString("s")}})));
+  EXPECT_FALSE(dictionary.EqualTo(
+      Dictionary<Object>(Properties{{"x", MakeInt(2)}, {"y", MakeString("s")}})));
+  EXPECT_FALSE(dictionary.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(1)}})));
+  EXPECT_FALSE(dictionary.EqualTo(Dictionary<Object>(
+      DictionaryId(), StringSchema, Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}})));
+  EXPECT_THROW(static_cast<void>(array.EqualTo(Int32(5))), BadCast);
+  EXPECT_THROW(static_cast<void>(dictionary.EqualTo(Int32(1))), BadCast);
+}
+
+TEST(Containers, CopyDeeplyWithTheirSchemasAndTheSchemasOfTheirElements) {
+  auto const nested = std::make_shared<Array<Object>>(Int32Schema, Objects{MakeInt(1)});
+  Array<Object> const array(Required(ArraySchema.GetType(), {Int32Schema}), {nested});
+  Dictionary<Object> const dictionary(DictionaryId(), ArraySchema, Properties{{"list", nested}});
+  Array<Object> arrayCopy;
+  arrayCopy.Set(array);
+  Dictionary<Object> dictionaryCopy;
+  dictionaryCopy.Set(dictionary);
+  EXPECT_EQ(arrayCopy.GetRequired(), array.GetRequired());
+  EXPECT_EQ(dictionaryCopy.GetRequired(), ArraySchema);
+  ASSERT_EQ(arrayCopy.Size(), 1u);
+  EXPECT_NE(arrayCopy.Get(0), nested);
+  EXPECT_NE(dictionaryCopy.Get("list"), nested);
+  EXPECT_EQ(arrayCopy.Get(0)->GetRequired(), Int32Schema);
+  EXPECT_TRUE(arrayCopy.EqualTo(array));
+  EXPECT_TRUE(dictionaryCopy.EqualTo(dictionary));
+}
+
+TEST(Containers, AFailedCopyNamesTheCauseAndLeavesTheTargetAsItWas) {
+  Array<Object> array(Objects{MakeInt(1)});
+  Dictionary<Object> dictionary(Properties{{"b", MakeInt(1)}});
+  Snapshot const arrayBefore = Snapshot::Of(array);
+  Snapshot const dictionaryBefore = Snapshot::Of(dictionary);
+  EXPECT_EQ(MessageOf<BadCast>([&] { array.Set(Int32(5)); }),
+            "Failed to cast the runtime object from 'ryx.object.Int32' to a 'ryx.object.Array'");
+  EXPECT_THROW(dictionary.Set(Int32(1)), BadCast);
+  EXPECT_EQ(MessageOf<std::runtime_error>([&] {
+              array.Set(Array<Object>(Objects{MakeInt(1), std::make_shared<Unregistered>()}));
+            }),
+            "Failed to copy array element '");
+  EXPECT_EQ(
+      MessageOf<std::runtime_error>([&] {
+        dictionary.Set(Dictionary<Object>(Properties{{"odd", std::make_shared<Unregistered>()}}));
+      }),
+      "Failed to copy dictionary element 'odd': ");
+  EXPECT_EQ(Snapshot::Of(array), arrayBefore);
+  EXPECT_EQ(Snapshot::Of(dictionary), dictionaryBefore);
+}
+
+// Construction, Set, Append, Prepend and Insert each check what they add.
+TEST(Array, EveryPathRefusesANullOrMismatchedElementAndKeepsTheArray) {
   EXPECT_EQ(MessageOf<std::invalid_argument>([] {
               Array<Object>(Objects{MakeInt(1), nullptr});
             }),
@@ -66,12 +115,16 @@ TEST(Array, ConstructionChecksEveryElement) {
               Array<Object>(Int32Schema, {MakeInt(1), MakeBool(true)});
             }),
             "The object 'ryx.object.Bool' did not match the required type 'ryx.object.Int32'");
-  EXPECT_EQ(Array<Object>(Int32Schema, {MakeInt(1), MakeInt(2)}).Size(), 2u);
-}
-
-TEST(Array, ATypedSchemaRejectsAnElementOfAnotherTypeOnEveryPathAndKeepsTheArray) {
   Array<Object> array(Int32Schema, {MakeInt(1), MakeInt(2)});
   Snapshot const before = Snapshot::Of(array);
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Set(0, nullptr); }),
+            "Cannot set null object pointers in an array");
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Append(nullptr); }), NullObject);
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Prepend(nullptr); }), NullObject);
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] {
+              array.Insert(0, {MakeInt(1), nullptr});
+            }),
+            NullObject);
   EXPECT_THROW(array.Append(MakeBool(true)), std::invalid_argument);
   EXPECT_THROW(array.Prepend(MakeBool(true)), std::invalid_argument);
   EXPECT_THROW(array.Insert(1, {MakeInt(3), MakeBool(true)}), std::invalid_argument);
@@ -122,53 +175,6 @@ TEST(Array, ReportsTheIndexAndSizeOfAnOutOfRangeAccess) {
   EXPECT_EQ(array.Size(), 4u);
 }
 
-TEST(Array, RefusesNullElementsWithTheMessageOfEachPath) {
-  Array<Object> array(Objects{MakeInt(0)});
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Set(0, nullptr); }),
-            "Cannot set null object pointers in an array");
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Append(nullptr); }), NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Prepend(nullptr); }), NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] {
-              array.Insert(0, {MakeInt(1), nullptr});
-            }),
-            NullObject);
-  EXPECT_EQ(array.Size(), 1u);
-}
-
-TEST(Array, ComparesLengthElementsAndSchema) {
-  Array<Object> const a(Objects{MakeInt(1), MakeString("x")});
-  EXPECT_TRUE(a.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("x")})));
-  EXPECT_FALSE(a.EqualTo(Array<Object>(Objects{MakeInt(1)})));
-  EXPECT_FALSE(a.EqualTo(Array<Object>(Objects{MakeInt(1), MakeString("y")})));
-  EXPECT_FALSE(
-      a.EqualTo(Array<Object>(Required{Int32Schema, StringSchema}, {MakeInt(1), MakeString("x")})));
-  EXPECT_THROW(static_cast<void>(a.EqualTo(Int32(5))), BadCast);
-}
-
-TEST(Array, CopiesDeeplyWithItsSchemaAndTheSchemasOfItsElements) {
-  auto const nested = std::make_shared<Array<Object>>(Int32Schema, Objects{MakeInt(1)});
-  Array<Object> const source(Required(ArraySchema.GetType(), {Int32Schema}), {nested});
-  Array<Object> copy;
-  copy.Set(source);
-  EXPECT_EQ(copy.GetRequired(), source.GetRequired());
-  ASSERT_EQ(copy.Size(), 1u);
-  EXPECT_NE(copy.Get(0), nested);
-  EXPECT_EQ(copy.Get(0)->GetRequired(), Int32Schema);
-  EXPECT_TRUE(copy.EqualTo(source));
-}
-
-TEST(Array, AFailedCopyNamesTheCauseAndLeavesTheTargetAsItWas) {
-  Array<Object> target(Objects{MakeInt(1)});
-  Snapshot const before = Snapshot::Of(target);
-  EXPECT_EQ(MessageOf<BadCast>([&] { target.Set(Int32(5)); }),
-            "Failed to cast the runtime object from 'ryx.object.Int32' to a 'ryx.object.Array'");
-  EXPECT_EQ(Snapshot::Of(target), before);
-  Array<Object> const source(Objects{MakeInt(1), std::make_shared<Unregistered>()});
-  EXPECT_EQ(MessageOf<std::runtime_error>([&] { target.Set(source); }),
-            "Failed to copy array element '");
-  EXPECT_EQ(Snapshot::Of(target), before);
-}
-
 TEST(Array, RequiredMakesAnEmptyArrayCarryingASingleChildAsItsSchema) {
   auto const typed = Required(ArraySchema.GetType(), {Int32Schema}).Make();
   ASSERT_TRUE(typed && typed->Is<Array<Object>>());
@@ -182,77 +188,25 @@ TEST(Array, RequiredMakesAnEmptyArrayCarryingASingleChildAsItsSchema) {
   EXPECT_EQ(perPosition->GetRequired(), pair);
 }
 
-TEST(Dictionary, WalksEachValueOnceAndNeverAKey) {
-  auto const a = MakeInt(1), b = MakeInt(2), c = MakeString("c");
-  std::vector<Object const*> seen =
-      ElementsOf(Dictionary<Object>(Properties{{"a", a}, {"b", b}, {"c", c}}));
-  std::vector<Object const*> expected{a.get(), b.get(), c.get()};
-  std::sort(seen.begin(), seen.end());
-  std::sort(expected.begin(), expected.end());
-  EXPECT_EQ(seen, expected);
-}
-
-TEST(Dictionary, ConstructionRefusesNullValuesButDoesNotCheckTheSchema) {
+// Construction refuses null values but does not check the schema; Insert
+// checks the value, a per-position schema as a whole, then the key.
+TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
   EXPECT_EQ(MessageOf<std::invalid_argument>([] {
               Dictionary<Object>(Properties{{"a", nullptr}});
             }),
             "Must provide valid object pointers when creating a dictionary");
-  Dictionary<Object> const unchecked(DictionaryId(), Int32Schema,
-                                     Properties{{"f", MakeBool(true)}});
-  EXPECT_EQ(unchecked.Size(), 1u);
-  EXPECT_EQ(unchecked.GetRequired(), Int32Schema);
-}
-
-TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
-  auto const first = MakeInt(1);
+  auto const first = MakeBool(true);
   Dictionary<Object> dictionary(DictionaryId(), Int32Schema, Properties{{"a", first}});
+  EXPECT_EQ(dictionary.GetRequired(), Int32Schema);
   Snapshot const before = Snapshot::Of(dictionary);
-  // A wrong value is reported before an existing key.
   EXPECT_THROW(dictionary.Insert("a", MakeBool(true)), std::invalid_argument);
   EXPECT_EQ(MessageOf<std::invalid_argument>([&] { dictionary.Insert("b", nullptr); }), NullObject);
   EXPECT_THROW(dictionary.Insert("a", MakeInt(2)), std::logic_error);
   EXPECT_EQ(Snapshot::Of(dictionary), before);
   EXPECT_EQ(dictionary.Get("a"), first);
-}
-
-TEST(Dictionary, APerPositionSchemaAppliesAsAWholeToEachInsertedValue) {
-  Dictionary<Object> dictionary(DictionaryId(), Required{Int32Schema, StringSchema}, Properties{});
-  dictionary.Insert("a", MakeBool(true));
-  EXPECT_EQ(dictionary.Size(), 1u);
-}
-
-TEST(Dictionary, ComparesKeysValuesAndSchema) {
-  Dictionary<Object> const a(Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}});
-  EXPECT_TRUE(a.EqualTo(Dictionary<Object>(Properties{{"y", MakeString("s")}, {"x", MakeInt(1)}})));
-  EXPECT_FALSE(
-      a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(1)}, {"z", MakeString("s")}})));
-  EXPECT_FALSE(
-      a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(2)}, {"y", MakeString("s")}})));
-  EXPECT_FALSE(a.EqualTo(Dictionary<Object>(Properties{{"x", MakeInt(1)}})));
-  EXPECT_FALSE(a.EqualTo(Dictionary<Object>(
-      DictionaryId(), StringSchema, Properties{{"x", MakeInt(1)}, {"y", MakeString("s")}})));
-  EXPECT_THROW(static_cast<void>(a.EqualTo(Int32(1))), BadCast);
-}
-
-TEST(Dictionary, CopiesDeeplyWithItsSchema) {
-  auto const nested = std::make_shared<Array<Object>>(Objects{MakeInt(1)});
-  Dictionary<Object> const source(DictionaryId(), ArraySchema, Properties{{"list", nested}});
-  Dictionary<Object> copy;
-  copy.Set(source);
-  EXPECT_EQ(copy.GetRequired(), ArraySchema);
-  EXPECT_NE(copy.Get("list"), nested);
-  EXPECT_TRUE(copy.EqualTo(source));
-}
-
-TEST(Dictionary, AFailedCopyNamesTheCauseAndLeavesTheTargetAsItWas) {
-  Dictionary<Object> target(Properties{{"b", MakeInt(1)}});
-  Snapshot const before = Snapshot::Of(target);
-  Dictionary<Object> const source(Properties{{"odd", std::make_shared<Unregistered>()}});
-  EXPECT_EQ(MessageOf<std::runtime_error>([&] { target.Set(source); }),
-            "Failed to copy dictionary element 'odd': ");
-  EXPECT_EQ(Snapshot::Of(target), before);
-  EXPECT_THROW(target.Set(Int32(1)), BadCast);
-  EXPECT_EQ(Snapshot::Of(target), before);
+  Dictionary<Object> perPosition(DictionaryId(), Required{Int32Schema, StringSchema}, Properties{});
+  perPosition.Insert("a", MakeBool(true));
+  EXPECT_EQ(perPosition.Size(), 1u);
 }
 
 // A per-position schema cannot describe a dictionary's values, so such a
@@ -274,6 +228,7 @@ TEST(Property, HoldsAKeyAndANonNullObject) {
   auto const value = MakeInt(1);
   dictionary::Property property("k", value);
   EXPECT_EQ(property.GetKey(), "k");
+  EXPECT_EQ(property.GetObject(), value);  // a copy: the property keeps its own
   EXPECT_EQ(std::move(property).GetObject(), value);
   EXPECT_EQ(MessageOf<std::invalid_argument>([] { dictionary::Property("k", nullptr); }),
             "Cannot create a property with a null object pointer");

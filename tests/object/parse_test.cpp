@@ -47,13 +47,12 @@ TEST(ParseIntegers, AcceptEveryWidthsBoundsAndRefuseOneBeyondNamingTheRange) {
             std::numeric_limits<unsigned long>::max());
 }
 
-TEST(ParseIntegers, SkipLeadingSpaceAndIgnoreTrailingCharacters) {
+// Leading space is skipped and trailing characters ignored; an unsigned
+// type's minus wraps before the range check.
+TEST(ParseIntegers, SkipLeadingSpaceIgnoreTrailingCharactersAndWrapAnUnsignedMinus) {
   EXPECT_EQ(Parse<int>("  42abc"), 42);
   EXPECT_EQ(Parse<int>("\t-7 "), -7);
   EXPECT_EQ(Parse<int>("+15"), 15);
-}
-
-TEST(ParseIntegers, UnsignedMinusWrapsBeforeTheRangeCheck) {
   EXPECT_EQ(MessageOf<std::out_of_range>([] { Parse<unsigned short>("-1"); }),
             "The parsed value '18446744073709551615' was out of range of the integer type: 0 to "
             "65535");
@@ -91,16 +90,13 @@ TEST(ParseFloatingPoint, FollowsTheStandardConversionsAndReportsFailuresWithThei
             "The string was out of the range of a double-precision floating pointer number: 1e999");
 }
 
-TEST(ParseBool, AcceptsTheFourWordsAtTheStartAfterWhiteSpace) {
+TEST(ParseBool, AcceptsTheFourWordsAtTheStartAfterWhiteSpaceAndRejectsOtherTextQuotingItWhole) {
   for (char const* text : {"\ttrue", "1", "truex", " \r\n\f\v10"}) {
     EXPECT_TRUE(Parse<bool>(text)) << text;
   }
   for (char const* text : {"false", "0", "0.5"}) {
     EXPECT_FALSE(Parse<bool>(text)) << text;
   }
-}
-
-TEST(ParseBool, RejectsOtherTextQuotingItWhole) {
   for (std::string const text : {"True", "yes", "", "   ", " 2", "t"}) {
     EXPECT_EQ(MessageOf<std::invalid_argument>([&] { Parse<bool>(text); }),
               "Failed to parse the string into a boolean value: " + text);

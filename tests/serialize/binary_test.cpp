@@ -1,5 +1,6 @@
 // What the binary reader accepts and refuses, and the binary form of a schema.
 #include "serialize/box.hpp"
+#include "support.hpp"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,7 @@ using namespace ryx::object;
 using test::Bytes;
 using test::Id;
 using test::Little;
+using ryx::object::testing::MessageOf;
 
 std::string Reversed(std::string const& bytes) { return std::string(bytes.rbegin(), bytes.rend()); }
 
@@ -30,25 +32,18 @@ TEST(BinaryForm, ReadsABigEndianStreamByReversingMultiByteFields) {
 }
 
 TEST(BinaryForm, RejectsAnEndiannessOrBoolByteOtherThanZeroOrOneAndAnUnregisteredTypeId) {
-  EXPECT_THROW(FromBinary("\x02" + Id("ryx.object.Bool") + '\x01'), std::runtime_error);
-  EXPECT_THROW(FromBinary(Little + Id("ryx.object.Bool") + '\x02'), std::runtime_error);
-  try {
-    FromBinary(Little + Bytes<std::uint32_t>(12345u) + "rest");
-    ADD_FAILURE() << "no exception";
-  } catch (std::runtime_error const& error) {
-    EXPECT_NE(std::string(error.what()).find("12345"), std::string::npos) << error.what();
+  std::pair<std::string, std::string> const cases[] = {
+      {"\x02" + Id("ryx.object.Bool") + '\x01',
+       "Invalid endianness byte in the binary form: 2 (expected 0 or 1)"},
+      {Little + Id("ryx.object.Bool") + '\x02',
+       "Invalid bool byte in the binary form: 2 (expected 0 or 1)"},
+      {Little + Bytes<std::uint32_t>(12345u) + "rest",
+       "Cannot load the unregistered type id 12345 from the binary form: the bytes that follow "
+       "cannot be read"},
+  };
+  for (auto const& [bytes, message] : cases) {
+    EXPECT_EQ(MessageOf<std::runtime_error>([&] { FromBinary(bytes); }), message);
   }
-}
-
-TEST(BinaryForm, ReportsAStreamCutInsideAValueWithTheBytesThatWereThere) {
-  try {
-    FromBinary(Little + Id("ryx.object.Int64") + "\x01\x02\x03");
-    ADD_FAILURE() << "no exception";
-  } catch (cereal::Exception const& error) {
-    EXPECT_STREQ(error.what(), "Failed to read 8 bytes from input stream! Read 3");
-  }
-  EXPECT_THROW(FromBinary(""), cereal::Exception);
-  EXPECT_THROW(FromBinary(Little + "\x01\x02"), cereal::Exception);
 }
 
 // A length far beyond the stream must fail before anything is allocated for it.

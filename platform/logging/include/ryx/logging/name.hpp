@@ -17,7 +17,6 @@ class RYX_LOGGING_EXPORT Name {
   std::string const& GetValue() const noexcept { return value; }
 
   friend bool operator==(Name const& a, Name const& b) noexcept { return a.value == b.value; }
-  friend bool operator!=(Name const& a, Name const& b) noexcept { return a.value != b.value; }
 
  private:
   std::string value;
