@@ -143,16 +143,8 @@ std::shared_ptr<Object const> Sample() {
 
 // A JSON save function with its layout bound.
 template <class Save>
-auto Indented(Save save) {
-  return [save](std::shared_ptr<Object const> const& value) {
-    return save(value, JsonLayout::Indented);
-  };
-}
-template <class Save>
-auto Compact(Save save) {
-  return [save](std::shared_ptr<Object const> const& value) {
-    return save(value, JsonLayout::Compact);
-  };
+auto Laid(JsonLayout layout, Save save) {
+  return [layout, save](std::shared_ptr<Object const> const& value) { return save(value, layout); };
 }
 
 // Saving the sample armed gives the text of an unarmed save, or bad_alloc.
@@ -363,8 +355,10 @@ Case const Cases[] = {
     RyxObjectRelease(loaded);
     return status != RyxObjectStatusSuccess;
   }},
-  {"ToJson compact", false, [] { return SavesWhole(Compact(ToJson)); }},
-  {"ToJsonThroughArchive", false, [] { return SavesWhole(Indented(ToJsonThroughArchive)); }},
+  {"ToJson compact", false, [] { return SavesWhole(Laid(JsonLayout::Compact, ToJson)); }},
+  {"ToJsonThroughArchive", false, [] {
+    return SavesWhole(Laid(JsonLayout::Indented, ToJsonThroughArchive));
+  }},
   {"ToBinary, first on its thread", false, [] {
     // The first save on a thread also sets up that thread's lookups.
     auto const sample = Sample();
@@ -377,12 +371,10 @@ Case const Cases[] = {
     return !text;
   }},
   {"ToXml", false, [] { return SavesWhole(ToXml); }},
-  {"ToBinary", false, [] { return SavesWhole(ToBinary); }},
   {"ToBinaryThroughArchive", false, [] { return SavesWhole(ToBinaryThroughArchive); }},
-  {"FromJson", false, [] { return LoadsWhole(Indented(ToJson), FromJson); }},
-  {"FromJson compact", false, [] { return LoadsWhole(Compact(ToJson), FromJson); }},
+  {"FromJson", false, [] { return LoadsWhole(Laid(JsonLayout::Indented, ToJson), FromJson); }},
   {"FromJsonThroughArchive", false, [] {
-    return LoadsWhole(Indented(ToJson), FromJsonThroughArchive);
+    return LoadsWhole(Laid(JsonLayout::Indented, ToJson), FromJsonThroughArchive);
   }},
   {"FromXml", false, [] { return LoadsWhole(ToXml, FromXml); }},
   {"FromBinary", false, [] { return LoadsWhole(ToBinary, FromBinary); }},
