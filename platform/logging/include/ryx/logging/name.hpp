@@ -4,7 +4,6 @@
 #include <ryx/logging/export.hpp>
 
 #include <string>
-#include <utility>
 
 namespace ryx::logging {
 
@@ -12,11 +11,8 @@ class RYX_LOGGING_EXPORT Name {
  public:
   // A null text gives the empty name.
   explicit Name(char const* value) : value(value != nullptr ? value : "") {}
-  explicit Name(std::string value) : value(std::move(value)) {}
 
   std::string const& GetValue() const noexcept { return value; }
-
-  friend bool operator==(Name const& a, Name const& b) noexcept { return a.value == b.value; }
 
  private:
   std::string value;
