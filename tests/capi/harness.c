@@ -28,16 +28,13 @@ void CheckFailed(char const* file, int line, char const* text) {
 }
 
 void CheckLoggedAt(char const* file, int line, char const* expected) {
-  if (logCount != 1) {
-    fprintf(stderr, "%s:%d: %s: expected one message \"%s\", got %d (last \"%s\")\n", file, line,
-            currentTest, expected, logCount, logCount > 0 ? lastLog : "");
-    ++failures;
-  } else if (strcmp(lastLog, expected) != 0) {
-    fprintf(stderr, "%s:%d: %s: expected message \"%s\"\n%*s got \"%s\"\n", file, line, currentTest,
-            expected, (int)strlen(file) + 8, "", lastLog);
+  if (logCount != 1 || strcmp(lastLog, expected) != 0) {
+    fprintf(stderr, "%s:%d: %s: expected one message \"%s\"\n%*s got %d, the last \"%s\"\n", file,
+            line, currentTest, expected, (int)strlen(file) + 8, "", logCount, lastLog);
     ++failures;
   }
   logCount = 0;
+  lastLog[0] = '\0';
 }
 
 int32_t Int32Of(RyxObject const* handle) {
