@@ -18,11 +18,6 @@ class Unregistered : public Object {
   bool EqualTo(Object const& /*other*/) const override { return false; }
 };
 
-// An empty container of the kind `container`, its elements of the type `element`.
-RyxObject* MakeRequiring(ryx::hash::MurmurThree32 container, uint32_t element) {
-  return Convert(Required(container, {Required(ryx::hash::MurmurThree32(element))}).Make());
-}
-
 }  // namespace
 
 extern "C" RyxObject* MakeStringWithNul(void) {
@@ -38,12 +33,9 @@ extern "C" RyxObject* MakeEmptyHandle(void) {
   return reinterpret_cast<RyxObject*>(new std::shared_ptr<Object>());
 }
 
-extern "C" RyxObject* MakeArrayRequiring(uint32_t type) {
-  return MakeRequiring(Object::TypeIdOf<Array<Object>>(), type);
-}
-
-extern "C" RyxObject* MakeDictionaryRequiring(uint32_t type) {
-  return MakeRequiring(Object::TypeIdOf<Dictionary<Object>>(), type);
+extern "C" RyxObject* MakeRequiring(uint32_t container, uint32_t element) {
+  using ryx::hash::MurmurThree32;
+  return Convert(Required(MurmurThree32(container), {Required(MurmurThree32(element))}).Make());
 }
 
 extern "C" RyxObject* MakeDefaultEnum(void) {

@@ -1,3 +1,5 @@
+// The functions of any handle, the status messages, and the NULL-parameter and
+// wrong-kind reports that every function shares.
 #include "fixtures.h"
 #include "harness.h"
 
@@ -5,39 +7,29 @@
 
 #include <string.h>
 
-static void EveryGenericFunctionAcceptsNullSilently(void) {
-  CHECK(RyxObjectReference(NULL) == NULL);
-  CHECK(RyxObjectReferenceCount(NULL) == 0);
-  RyxObjectRelease(NULL);
-  CHECK(RyxObjectType(NULL) == 0);
-  CHECK(RyxObjectTypeName(NULL) == NULL);
-}
-
-static void ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails(void) {
+// NULL is accepted silently everywhere; an empty slot counts as -1; a failed
+// allocation of the new handle answers NULL.
+static void ReferenceSharesTheValueAndCountsEveryOwner(void) {
   RyxObject* const first = RyxObjectInt32Create(11);
   RyxObject* const second = RyxObjectReference(first);
-  CHECK(second != NULL && second != first);
-  CHECK(RyxObjectReferenceCount(first) == 2 && RyxObjectReferenceCount(second) == 2);
+  RyxObject* const empty = MakeEmptyHandle();
+  RyxObject* const copy = RyxObjectReference(empty);
+  CHECK(RyxObjectReference(NULL) == NULL && RyxObjectReferenceCount(NULL) == 0);
+  CHECK(RyxObjectType(NULL) == 0 && RyxObjectTypeName(NULL) == NULL);
+  RyxObjectRelease(NULL);
+  CHECK(second != NULL && second != first && RyxObjectReferenceCount(first) == 2);
   RyxObjectRelease(second);
-  CHECK(RyxObjectReferenceCount(first) == 1);
-  CHECK(Int32Of(first) == 11);
   FailNthAllocation(1);
   CHECK(RyxObjectReference(first) == NULL);
   FailNthAllocation(0);
-  CHECK(RyxObjectReferenceCount(first) == 1);
+  CHECK(RyxObjectReferenceCount(first) == 1 && Int32Of(first) == 11);
+  CHECK(copy != NULL && RyxObjectReferenceCount(empty) == -1 &&
+        RyxObjectReferenceCount(copy) == -1);
   RyxObjectRelease(first);
-}
-
-static void AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased(void) {
-  RyxObject* const empty = MakeEmptyHandle();
-  RyxObject* const copy = RyxObjectReference(empty);
-  CHECK(RyxObjectReferenceCount(empty) == -1);
-  CHECK(copy != NULL && RyxObjectReferenceCount(copy) == -1);
   RyxObjectRelease(copy);
   RyxObjectRelease(empty);
 }
 
-/* The codes are the numbers 0 to 5, each with its own message. */
 static void StatusMessagesCoverEveryValue(void) {
   static char const* const expected[6] = {
       [RyxObjectStatusSuccess] = "The RYX API operation was a success",
@@ -60,11 +52,10 @@ static void StatusMessagesCoverEveryValue(void) {
                "The status was greater than the number of status error messages") == 0);
 }
 
-/* The numeric kinds are covered by the table of primitive_test.c. Functions
- * that consume their handle do so before they test an output pointer. */
+// The numeric kinds are covered by primitive_test.c. Functions that consume
+// their handle do so before they test an output pointer.
 static void NullParametersAreNamedAndAnObjectNotConsumed(void) {
   RyxObject* const text = RyxObjectStringCreate("x");
-  RyxObject* const enumerator = RyxObjectEnumCreate(5);
   RyxObject* const object = RyxObjectInt32Create(6);
   RyxObject* loaded = object;
   char buffer[4];
@@ -80,10 +71,10 @@ static void NullParametersAreNamedAndAnObjectNotConsumed(void) {
   CHECK_NULL("object", RyxObjectStringConvertAllocate, NULL, &data);
   CHECK_NULL("value", RyxObjectStringConvertAllocate, RyxObjectReference(text), NULL);
   CHECK_NULL("object", RyxObjectEnumSetValue, NULL, 1);
-  CHECK_NULL("value", RyxObjectEnumGetValue, NULL, NULL); /* the value is tested first */
+  CHECK_NULL("value", RyxObjectEnumGetValue, NULL, NULL);  // the value is tested first
   CHECK_NULL("object", RyxObjectEnumGetValue, NULL, &value);
   CHECK_NULL("object", RyxObjectEnumConvertValue, NULL, &value);
-  CHECK_NULL("value", RyxObjectEnumConvertValue, RyxObjectReference(enumerator), NULL);
+  CHECK_NULL("value", RyxObjectEnumConvertValue, RyxObjectEnumCreate(5), NULL);
   CHECK_NULL("object", RyxObjectArraySetObject, NULL, 0, object);
   CHECK_REPORTED(RyxObjectArraySize(NULL) == 0,
                  "RyxObjectArraySize: the object parameter was NULL");
@@ -98,20 +89,17 @@ static void NullParametersAreNamedAndAnObjectNotConsumed(void) {
   CHECK_NULL("text", RyxObjectRender, "", text, NULL, &size);
   CHECK_NULL("size", RyxObjectRender, "", text, &data, NULL);
   CHECK(data == NULL && size == 0 && loaded == object);
-  CHECK(RyxObjectReferenceCount(text) == 1 && RyxObjectReferenceCount(enumerator) == 1);
-  CHECK(RyxObjectReferenceCount(object) == 1);
+  CHECK(RyxObjectReferenceCount(text) == 1 && RyxObjectReferenceCount(object) == 1);
   RyxObjectRelease(text);
-  RyxObjectRelease(enumerator);
   RyxObjectRelease(object);
 }
 
-/* Another kind is refused naming both types; a consuming function still
- * consumes its handle, any other leaves the value as it was. */
+// Another kind is refused naming both types; a consuming function still
+// consumes its handle, any other leaves its handles and values as they were.
 static void AnotherKindIsRefusedNamingBothTypes(void) {
   RyxObject* const number = RyxObjectInt32Create(3);
   RyxObject* const array = RyxObjectArrayCreateObjects(NULL);
   RyxObject* const unregistered = MakeUnregisteredValue();
-  RyxObject* const object = RyxObjectInt32Create(6);
   char const* text = NULL;
   char buffer[4];
   char* copy = NULL;
@@ -127,31 +115,24 @@ static void AnotherKindIsRefusedNamingBothTypes(void) {
   CHECK_NOT_A("ryx.object.Enum", "ryx.object.Int32", RyxObjectEnumGetValue, number, &value);
   CHECK_NOT_A("ryx.object.Enum", "ryx.object.Int32", RyxObjectEnumConvertValue,
               RyxObjectReference(number), &value);
-  CHECK_NOT_A("ryx.object.Array", "ryx.object.Int32", RyxObjectArrayAppendObject, number, object);
+  CHECK_NOT_A("ryx.object.Array", "ryx.object.Int32", RyxObjectArrayAppendObject, number, array);
   CHECK_REPORTED(!RyxObjectArrayEmpty(number),
                  "RyxObjectArrayEmpty: the object parameter was not a ryx.object.Array: "
                  "ryx.object.Int32");
   CHECK_REPORTED(RyxObjectDictSize(array) == 0,
                  "RyxObjectDictSize: the object parameter was not a ryx.object.Dictionary: "
                  "ryx.object.Array");
-  /* A type without a registered name. */
+  // A type without a registered name.
   CHECK(RyxObjectTypeName(unregistered) == NULL && RyxObjectType(unregistered) != 0);
   CHECK_NOT_A("ryx.object.Int32", "[not-registered]", RyxObjectInt32Get, unregistered, &read);
   CHECK(text == NULL && copy == NULL && value == 0 && read == 0);
   CHECK(Int32Of(number) == 3 && RyxObjectReferenceCount(number) == 1);
-  CHECK(RyxObjectReferenceCount(object) == 1);
   RyxObjectRelease(number);
   RyxObjectRelease(array);
   RyxObjectRelease(unregistered);
-  RyxObjectRelease(object);
 }
 
-TestCase const GenericTests[] = {
-    TEST_CASE(EveryGenericFunctionAcceptsNullSilently),
-    TEST_CASE(ReferenceSharesTheValueAndCountsEveryOwnerUnlessAllocationFails),
-    TEST_CASE(AnEmptySlotCountsAsMinusOneAndCanBeReferencedAndReleased),
-    TEST_CASE(StatusMessagesCoverEveryValue),
-    TEST_CASE(NullParametersAreNamedAndAnObjectNotConsumed),
-    TEST_CASE(AnotherKindIsRefusedNamingBothTypes),
-};
-size_t const GenericTestCount = sizeof GenericTests / sizeof GenericTests[0];
+TESTS(Generic, TEST_CASE(ReferenceSharesTheValueAndCountsEveryOwner),
+      TEST_CASE(StatusMessagesCoverEveryValue),
+      TEST_CASE(NullParametersAreNamedAndAnObjectNotConsumed),
+      TEST_CASE(AnotherKindIsRefusedNamingBothTypes));

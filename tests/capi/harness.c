@@ -28,64 +28,44 @@ void CheckFailed(char const* file, int line, char const* text) {
 }
 
 void CheckLoggedAt(char const* file, int line, char const* expected) {
-  if (logCount != 1) {
-    fprintf(stderr, "%s:%d: %s: expected one message \"%s\", got %d (last \"%s\")\n", file, line,
-            currentTest, expected, logCount, logCount > 0 ? lastLog : "");
-    ++failures;
-  } else if (strcmp(lastLog, expected) != 0) {
-    fprintf(stderr, "%s:%d: %s: expected message \"%s\"\n%*s got \"%s\"\n", file, line, currentTest,
-            expected, (int)strlen(file) + 8, "", lastLog);
+  if (logCount != 1 || strcmp(lastLog, expected) != 0) {
+    fprintf(stderr, "%s:%d: %s: expected one message \"%s\"\n%*s got %d, the last \"%s\"\n", file,
+            line, currentTest, expected, (int)strlen(file) + 8, "", logCount, lastLog);
     ++failures;
   }
-  ForgetLogs();
-}
-
-void CheckSilentAt(char const* file, int line) {
-  if (logCount != 0) {
-    fprintf(stderr, "%s:%d: %s: expected no message, got %d (last \"%s\")\n", file, line,
-            currentTest, logCount, lastLog);
-    ++failures;
-  }
-  ForgetLogs();
-}
-
-int32_t Int32Of(RyxObject const* handle) {
-  int32_t value = -1;
-  CHECK_STATUS(RyxObjectStatusSuccess, RyxObjectInt32Get(handle, &value));
-  return value;
-}
-
-void ForgetLogs(void) {
   logCount = 0;
   lastLog[0] = '\0';
 }
 
-static void RunAll(TestCase const* tests, size_t count, char const* only) {
-  size_t i;
-  for (i = 0; i < count; ++i) {
-    int const before = failures;
-    if (only != NULL && strcmp(only, tests[i].name) != 0) {
-      continue;
-    }
-    currentTest = tests[i].name;
-    ForgetLogs();
-    tests[i].run();
-    CheckSilentAt(tests[i].name, 0); /* no message left unchecked */
-    printf("[%s] %s\n", failures == before ? "  OK  " : "FAILED", tests[i].name);
-  }
+int32_t Int32Of(RyxObject const* handle) {
+  int32_t value = -1;
+  CHECK_OK(RyxObjectInt32Get(handle, &value));
+  return value;
 }
 
-/* Runs every test, or only the one named by the first argument. */
+// Runs every test, or only the one named by the first argument.
 int main(int argc, char** argv) {
-  char const* const only = argc > 1 ? argv[1] : NULL;
+  TestCase const* const groups[] = {GenericTests,    PrimitiveTests, StringTests,   ArrayTests,
+                                    DictionaryTests, EnumTests,      SerializeTests};
+  size_t i;
+  TestCase const* test;
   RyxLoggingSetSink(Sink, NULL);
-  RunAll(GenericTests, GenericTestCount, only);
-  RunAll(PrimitiveTests, PrimitiveTestCount, only);
-  RunAll(StringTests, StringTestCount, only);
-  RunAll(ArrayTests, ArrayTestCount, only);
-  RunAll(DictionaryTests, DictionaryTestCount, only);
-  RunAll(EnumTests, EnumTestCount, only);
-  RunAll(SerializeTests, SerializeTestCount, only);
+  for (i = 0; i < sizeof groups / sizeof groups[0]; ++i) {
+    for (test = groups[i]; test->name != NULL; ++test) {
+      int const before = failures;
+      if (argc > 1 && strcmp(argv[1], test->name) != 0) {
+        continue;
+      }
+      currentTest = test->name;
+      logCount = 0;
+      test->run();
+      if (logCount != 0) {
+        fprintf(stderr, "%s: message left unchecked: \"%s\"\n", currentTest, lastLog);
+        ++failures;
+      }
+      printf("[%s] %s\n", failures == before ? "  OK  " : "FAILED", currentTest);
+    }
+  }
   RyxLoggingSetSink(NULL, NULL);
   if (failures != 0) {
     fprintf(stderr, "%d check(s) failed\n", failures);

@@ -1,12 +1,6 @@
-/*
- * A small test harness for the C interface, written in C so that the tests
- * exercise the header and the library exactly as a C program does.
- *
- * Every failure message is captured through the logging sink: CHECK_LOGGED
- * asserts that exactly one message was logged since the last check and that
- * it reads as expected; CHECK_SILENT asserts that none was, as the runner
- * does after every test.
- */
+// A small test harness for the C interface, written in C so that the tests use
+// the header and the library exactly as a C program does. Every message the
+// library logs reaches the harness; a test fails if it leaves one unchecked.
 #ifndef RYX_TESTS_CAPI_HARNESS_H
 #define RYX_TESTS_CAPI_HARNESS_H
 
@@ -20,9 +14,8 @@ typedef struct TestCase {
 } TestCase;
 
 void CheckFailed(char const* file, int line, char const* text);
+// Checks that exactly one message was logged since the last check, reading `expected`.
 void CheckLoggedAt(char const* file, int line, char const* expected);
-void CheckSilentAt(char const* file, int line);
-void ForgetLogs(void);
 
 #define CHECK(condition)                           \
   do {                                             \
@@ -30,46 +23,33 @@ void ForgetLogs(void);
       CheckFailed(__FILE__, __LINE__, #condition); \
     }                                              \
   } while (0)
-#define CHECK_STATUS(expected, actual) CHECK((actual) == (expected))
-#define CHECK_LOGGED(expected) CheckLoggedAt(__FILE__, __LINE__, (expected))
-#define CHECK_SILENT() CheckSilentAt(__FILE__, __LINE__)
-#define CHECK_REPORTED(condition, message) \
-  do {                                     \
-    CHECK(condition);                      \
-    CHECK_LOGGED(message);                 \
+#define CHECK_OK(call) CHECK((call) == RyxObjectStatusSuccess)
+#define CHECK_REPORTED(condition, message)        \
+  do {                                            \
+    CHECK(condition);                             \
+    CheckLoggedAt(__FILE__, __LINE__, (message)); \
   } while (0)
 
-/* The two failures every function reports alike, each message starting with
- * the function's own name: a NULL parameter answers
- * RyxObjectStatusInvalidParameter, a value of another kind
- * RyxObjectStatusIncorrectType. */
+// The failures every function reports alike, each message starting with the
+// function's own name: a NULL parameter, a value of another kind, and any other
+// failure, "<function>: <action>: <reason>", answering `result`.
 #define CHECK_NULL(parameter, function, ...)                               \
   CHECK_REPORTED(function(__VA_ARGS__) == RyxObjectStatusInvalidParameter, \
                  #function ": the " parameter " parameter was NULL")
 #define CHECK_NOT_A(expected, actual, function, ...)                    \
   CHECK_REPORTED(function(__VA_ARGS__) == RyxObjectStatusIncorrectType, \
                  #function ": the object parameter was not a " expected ": " actual)
-/* Any other failure: `result` and "<function>: <action>: <reason>". */
 #define CHECK_FAILS(result, reason, function, ...) \
   CHECK_REPORTED(function(__VA_ARGS__) == (result), #function ": " reason)
 
-/* The value of an Int32 handle, checking that it could be read. */
+// The value of an Int32 handle, checking that it could be read.
 int32_t Int32Of(RyxObject const* handle);
 
-/* An entry of a test table, named after its function. */
+// A group's table of tests, each named after its function.
 #define TEST_CASE(function) \
   { #function, function }
-
-/* The test tables of the test files. */
-#define DECLARE_TESTS(Group)            \
-  extern TestCase const Group##Tests[]; \
-  extern size_t const Group##TestCount
-DECLARE_TESTS(Generic);
-DECLARE_TESTS(Primitive);
-DECLARE_TESTS(String);
-DECLARE_TESTS(Array);
-DECLARE_TESTS(Dictionary);
-DECLARE_TESTS(Enum);
-DECLARE_TESTS(Serialize);
+#define TESTS(group, ...) TestCase const group##Tests[] = {__VA_ARGS__, {NULL, NULL}}
+extern TestCase const GenericTests[], PrimitiveTests[], StringTests[], ArrayTests[],
+    DictionaryTests[], EnumTests[], SerializeTests[];
 
 #endif

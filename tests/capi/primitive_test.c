@@ -1,8 +1,6 @@
-/*
- * The eleven boolean and numeric kinds: one test per kind, stamped out from
- * one body over two values of the kind, compared byte for byte (so a NaN
- * must come back unchanged), and a value of another kind.
- */
+// The eleven boolean and numeric kinds: one test per kind, stamped out from one
+// body over two values of the kind, compared byte for byte (so a NaN must come
+// back unchanged), and a value of another kind.
 #include "fixtures.h"
 #include "harness.h"
 
@@ -11,65 +9,52 @@
 #include <stdint.h>
 #include <string.h>
 
-/* Whether a read left its output as the 0x5A bytes it was set to. */
-static bool Untouched(void const* value, size_t size) {
-  unsigned char const* const bytes = value;
-  size_t i;
-  for (i = 0; i < size; ++i) {
-    if (bytes[i] != 0x5A) {
-      return false;
-    }
-  }
-  return true;
-}
-
-/* The handle is tested first, then the output pointer, then the kind; a
- * failure writes nothing and changes no value. Convert consumes its handle on
- * every path but a NULL one, and still delivers the value of a last handle.
- * Create reports a failed allocation of the value or of the handle. */
-#define KIND_TEST(Kind, CType, First, Second, Words, Other)                                        \
-  static void Kind##Functions(void) {                                                              \
-    CType const first = First;                                                                     \
-    CType const second = Second;                                                                   \
-    CType value;                                                                                   \
-    RyxObject* const object = RyxObject##Kind##Create(first);                                      \
-    RyxObject* const wrong = RyxObject##Other##Create(0);                                          \
-    RyxObject* const shared = RyxObjectReference(object);                                          \
-    int nth;                                                                                       \
-    CHECK(RyxObject##Kind##InstanceOf(object) && !RyxObject##Kind##InstanceOf(NULL));              \
-    CHECK(!RyxObject##Kind##InstanceOf(wrong));                                                    \
-    CHECK(RyxObjectType(object) == RyxObject##Kind##Type());                                       \
-    CHECK(strcmp(RyxObjectTypeName(object), "ryx.object." #Kind) == 0);                            \
-    CHECK(RyxObject##Kind##Get(object, &value) == RyxObjectStatusSuccess);                         \
-    CHECK(memcmp(&value, &first, sizeof value) == 0);                                              \
-    CHECK(RyxObject##Kind##Set(object, second) == RyxObjectStatusSuccess);                         \
-    CHECK(RyxObject##Kind##Get(shared, &value) == RyxObjectStatusSuccess);                         \
-    CHECK(memcmp(&value, &second, sizeof value) == 0);                                             \
-    RyxObjectRelease(shared);                                                                      \
-    memset(&value, 0x5A, sizeof value);                                                            \
-    CHECK_NULL("object", RyxObject##Kind##Set, NULL, first);                                       \
-    CHECK_NULL("object", RyxObject##Kind##Get, NULL, NULL);                                        \
-    CHECK_NULL("object", RyxObject##Kind##Convert, NULL, &value);                                  \
-    CHECK_NULL("value", RyxObject##Kind##Get, object, NULL);                                       \
-    CHECK_NULL("value", RyxObject##Kind##Convert, RyxObjectReference(object), NULL);               \
-    CHECK_NOT_A("ryx.object." #Kind, "ryx.object." #Other, RyxObject##Kind##Get, wrong, &value);   \
-    CHECK_NOT_A("ryx.object." #Kind, "ryx.object." #Other, RyxObject##Kind##Set, wrong, first);    \
-    CHECK_NOT_A("ryx.object." #Kind, "ryx.object." #Other, RyxObject##Kind##Convert,               \
-                RyxObjectReference(wrong), &value);                                                \
-    CHECK(Untouched(&value, sizeof value));                                                        \
-    CHECK(RyxObjectReferenceCount(object) == 1 && RyxObjectReferenceCount(wrong) == 1);            \
-    CHECK(RyxObject##Kind##Convert(RyxObjectReference(object), &value) == RyxObjectStatusSuccess); \
-    CHECK(memcmp(&value, &second, sizeof value) == 0 && RyxObjectReferenceCount(object) == 1);     \
-    memset(&value, 0x5A, sizeof value);                                                            \
-    CHECK(RyxObject##Kind##Convert(object, &value) == RyxObjectStatusSuccess);                     \
-    CHECK(memcmp(&value, &second, sizeof value) == 0);                                             \
-    RyxObjectRelease(wrong);                                                                       \
-    for (nth = 1; nth <= 2; ++nth) {                                                               \
-      FailNthAllocation(nth);                                                                      \
-      CHECK_REPORTED(RyxObject##Kind##Create(first) == NULL,                                       \
-                     "RyxObject" #Kind "Create: failed to create " Words ": std::bad_alloc");      \
-    }                                                                                              \
-    FailNthAllocation(0);                                                                          \
+// The handle is tested first, then the output pointer, then the kind; a
+// failure writes nothing and changes no value. Convert consumes its handle on
+// every path but a NULL one, and still delivers the value of a last handle.
+// Create reports a failed allocation of the value or of the handle.
+#define KIND_TEST(Kind, CType, First, Second, Words, Other)                                      \
+  static void Kind##Functions(void) {                                                            \
+    CType const first = First;                                                                   \
+    CType const second = Second;                                                                 \
+    CType value;                                                                                 \
+    CType untouched;                                                                             \
+    RyxObject* const object = RyxObject##Kind##Create(first);                                    \
+    RyxObject* const wrong = RyxObject##Other##Create(0);                                        \
+    RyxObject* const shared = RyxObjectReference(object);                                        \
+    int nth;                                                                                     \
+    CHECK(RyxObject##Kind##InstanceOf(object) && !RyxObject##Kind##InstanceOf(NULL));            \
+    CHECK(!RyxObject##Kind##InstanceOf(wrong) &&                                                 \
+          RyxObjectType(object) == RyxObject##Kind##Type());                                     \
+    CHECK(strcmp(RyxObjectTypeName(object), "ryx.object." #Kind) == 0);                          \
+    CHECK_OK(RyxObject##Kind##Get(object, &value));                                              \
+    CHECK(memcmp(&value, &first, sizeof value) == 0);                                            \
+    CHECK_OK(RyxObject##Kind##Set(object, second));                                              \
+    memset(&value, 0x5A, sizeof value);                                                          \
+    memset(&untouched, 0x5A, sizeof value);                                                      \
+    CHECK_NULL("object", RyxObject##Kind##Set, NULL, first);                                     \
+    CHECK_NULL("object", RyxObject##Kind##Get, NULL, NULL);                                      \
+    CHECK_NULL("object", RyxObject##Kind##Convert, NULL, &value);                                \
+    CHECK_NULL("value", RyxObject##Kind##Get, object, NULL);                                     \
+    CHECK_NULL("value", RyxObject##Kind##Convert, RyxObjectReference(object), NULL);             \
+    CHECK_NOT_A("ryx.object." #Kind, "ryx.object." #Other, RyxObject##Kind##Get, wrong, &value); \
+    CHECK_NOT_A("ryx.object." #Kind, "ryx.object." #Other, RyxObject##Kind##Set, wrong, first);  \
+    CHECK_NOT_A("ryx.object." #Kind, "ryx.object." #Other, RyxObject##Kind##Convert,             \
+                RyxObjectReference(wrong), &value);                                              \
+    CHECK(memcmp(&value, &untouched, sizeof value) == 0);                                        \
+    CHECK(RyxObjectReferenceCount(object) == 2 && RyxObjectReferenceCount(wrong) == 1);          \
+    CHECK_OK(RyxObject##Kind##Convert(shared, &value));                                          \
+    CHECK(memcmp(&value, &second, sizeof value) == 0 && RyxObjectReferenceCount(object) == 1);   \
+    memset(&value, 0x5A, sizeof value);                                                          \
+    CHECK_OK(RyxObject##Kind##Convert(object, &value));                                          \
+    CHECK(memcmp(&value, &second, sizeof value) == 0);                                           \
+    RyxObjectRelease(wrong);                                                                     \
+    for (nth = 1; nth <= 2; ++nth) {                                                             \
+      FailNthAllocation(nth);                                                                    \
+      CHECK_REPORTED(RyxObject##Kind##Create(first) == NULL,                                     \
+                     "RyxObject" #Kind "Create: failed to create " Words ": std::bad_alloc");    \
+    }                                                                                            \
+    FailNthAllocation(0);                                                                        \
   }
 
 KIND_TEST(Bool, bool, true, false, "the RYX boolean", Int8)
@@ -84,10 +69,7 @@ KIND_TEST(UInt64, uint64_t, UINT64_MAX, 1, "the RYX 64-bit unsigned integer", Fl
 KIND_TEST(Float, float, NAN, -0.0f, "the RYX float", Double)
 KIND_TEST(Double, double, -DBL_MAX, (double)NAN, "the RYX double", Bool)
 
-TestCase const PrimitiveTests[] = {
-    TEST_CASE(BoolFunctions),   TEST_CASE(Int8Functions),   TEST_CASE(Int16Functions),
-    TEST_CASE(Int32Functions),  TEST_CASE(Int64Functions),  TEST_CASE(UInt8Functions),
-    TEST_CASE(UInt16Functions), TEST_CASE(UInt32Functions), TEST_CASE(UInt64Functions),
-    TEST_CASE(FloatFunctions),  TEST_CASE(DoubleFunctions),
-};
-size_t const PrimitiveTestCount = sizeof PrimitiveTests / sizeof PrimitiveTests[0];
+TESTS(Primitive, TEST_CASE(BoolFunctions), TEST_CASE(Int8Functions), TEST_CASE(Int16Functions),
+      TEST_CASE(Int32Functions), TEST_CASE(Int64Functions), TEST_CASE(UInt8Functions),
+      TEST_CASE(UInt16Functions), TEST_CASE(UInt32Functions), TEST_CASE(UInt64Functions),
+      TEST_CASE(FloatFunctions), TEST_CASE(DoubleFunctions));
