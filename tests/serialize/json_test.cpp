@@ -33,8 +33,14 @@ TEST(JsonForm, ReportsTheFailedCheckOfAValueOfTheWrongKind) {
       {Value("ryx.object.Double", R"("1")"), "IsNumber()"},
       {Value("ryx.object.String", "1"), "IsString()"},
       {Value("ryx.object.Bool", "1"), "IsBool()"},
+      {R"({"typename":"ryx.object.Enum","type":-1,"value":0})", "data_.f.flags & kUintFlag"},
       {R"({"typename":7})", "IsString()"},
       {"not json", "IsObject()"},
+      // cereal enters every node as an object first.
+      {R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[]},"objects":5})",
+       "IsObject()"},
+      {R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[]},"objects":[5]})",
+       "IsObject()"},
   };
   for (auto const& [document, check] : cases) {
     EXPECT_EQ(CheckOf(document), check) << document;

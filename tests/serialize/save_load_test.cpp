@@ -19,12 +19,21 @@ class SaveLoad : public ::testing::Test {
   void TearDown() override { SetNestingLimit(DefaultNestingLimit); }
 };
 
-TEST_F(SaveLoad, AFailedLoadKeepsThePreviousValue) {
+// The array's schema is read before its list fails.
+TEST_F(SaveLoad, AFailedLoadKeepsThePreviousValueAndAContainerAsItWas) {
   std::shared_ptr<Object> value = std::make_shared<Int32>(5);
   std::istringstream in(R"({"typename":"ryx.object.Int32","value":"five"})");
   cereal::JSONInputArchive archive(in);
   EXPECT_THROW(Load(archive, value), cereal::archive::JsonParseError);
   EXPECT_EQ(value->As<Int32>().Get(), 5);
+  Required const int32Schema(Object::TypeIdOf<Int32>());
+  Array<Object> target(int32Schema, {std::make_shared<Int32>(9)});
+  std::istringstream list(
+      R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[]},"objects":5})");
+  cereal::JSONInputArchive listArchive(list);
+  EXPECT_THROW(target.Serialize(listArchive), cereal::archive::JsonParseError);
+  EXPECT_EQ(target.Size(), 1u);
+  EXPECT_EQ(target.GetRequired(), int32Schema);
 }
 
 TEST_F(SaveLoad, ADirectLoadReadsTheTypeRecordAndRefusesAnotherType) {
