@@ -54,9 +54,12 @@ TEST(JsonForm, FindsMembersByNameButTakesTheFirstAsTheTypeRecord) {
   EXPECT_EQ(FromJson(Value("no.such.Type", "9")), nullptr);
 }
 
-TEST(JsonForm, RefusesMissingMembersAndEmptyNodes) {
-  for (char const* document : {R"({"typename":"ryx.object.Int32"})", "{}", ""}) {
-    EXPECT_THROW(FromJson(document), cereal::Exception) << document;
+TEST(JsonForm, RefusesMissingMembersEmptyNodesAndAMillionNestedArrays) {
+  std::string const opened(1000000, '[');
+  for (std::string const& document : {std::string(R"({"typename":"ryx.object.Int32"})"),
+                                      std::string("{}"), std::string(), opened,
+                                      opened + std::string(1000000, ']')}) {
+    EXPECT_THROW(FromJson(document), cereal::Exception) << document.substr(0, 40);
   }
 }
 
@@ -74,12 +77,6 @@ TEST(JsonForm, RefusesNumbersThatTheNumberParserWouldMisread) {
   }
   // Inside strings digits are text.
   EXPECT_EQ(FromJson(Value("ryx.object.String", R"("0e-300")"))->As<String>().Get(), "0e-300");
-}
-
-TEST(JsonForm, FailsCleanlyOnAMillionNestedArrays) {
-  EXPECT_THROW(FromJson(std::string(1000000, '[') + std::string(1000000, ']')),
-               cereal::archive::JsonParseError);
-  EXPECT_THROW(FromJson(std::string(1000000, '[')), cereal::archive::JsonParseError);
 }
 
 TEST(JsonForm, WritesAndReadsASchemaThroughItsCerealHooks) {
