@@ -1,4 +1,4 @@
-// What the binary reader accepts and refuses, and the binary form of a schema.
+// What the binary reader accepts and refuses.
 #include "serialize/box.hpp"
 #include "support.hpp"
 
@@ -55,16 +55,6 @@ TEST(BinaryForm, FailsAtOnceOnAStringOrSchemaClaimingAHugeLength) {
   Required schema(Object::TypeIdOf<Int32>());
   EXPECT_THROW(archive(schema), cereal::Exception);
   EXPECT_EQ(schema, Required(Object::TypeIdOf<Int32>()));
-}
-
-TEST(BinaryForm, WritesASchemaAsIdChildCountAndChildren) {
-  std::ostringstream out;
-  {
-    cereal::PortableBinaryOutputArchive archive(out);
-    archive(Required{Required(Object::TypeIdOf<Bool>())});
-  }
-  EXPECT_EQ(out.str(), Little + Bytes<std::uint32_t>(0) + Bytes<std::uint64_t>(1) +
-                           Id("ryx.object.Bool") + Bytes<std::uint64_t>(0));
 }
 
 }  // namespace

@@ -51,6 +51,26 @@ TEST(ContainerForms, WriteTheExampleInEveryForm) {
       "ryx.object.Array: [ryx.object.Int32=7] [ryx.object.Dictionary name=abc] schema 0");
 }
 
+// An empty inner list must be there in the template data: were it missing,
+// the section would find the outer list instead.
+TEST(ContainerForms, WriteASchemaAsItsTypeAndChildTypesInEveryForm) {
+  Required const arraysOfBools(Object::TypeIdOf<Array<Object>>(),
+                               {Required(Object::TypeIdOf<Bool>())});
+  auto const typed = std::make_shared<Array<Object>>(arraysOfBools, Array<Object>::Objects{});
+  std::string const array = std::to_string(Object::TypeIdOf<Array<Object>>().GetValue());
+  std::string const bools = std::to_string(Object::TypeIdOf<Bool>().GetValue());
+  EXPECT_EQ(ToJson(typed, JsonLayout::Compact),
+            R"({"typename":"ryx.object.Array","required":{"type":)" + array +
+                R"(,"child_types":[{"type":)" + bools + R"(,"child_types":[]}]},"objects":[]})");
+  EXPECT_EQ(ToBinary(typed), test::Little + Id("ryx.object.Array") + Id("ryx.object.Array") +
+                                 Bytes(std::uint64_t{1}) + Id("ryx.object.Bool") +
+                                 Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{0}));
+  EXPECT_EQ(Render("{{#required}}{{type}}:{{#child_types}}{{type}}[{{#child_types}}x"
+                   "{{/child_types}}]{{/child_types}}{{/required}}",
+                   typed),
+            array + ":" + bools + "[]");
+}
+
 TEST(ContainerForms, RoundTripEveryKindAndNullChildrenInEveryForm) {
   auto const all = test::EveryKindInContainers();
   auto const value = all->Get(0);

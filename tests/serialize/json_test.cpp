@@ -1,11 +1,8 @@
-// What the JSON reader accepts and refuses, and the JSON form of a schema.
+// What the JSON reader accepts and refuses.
 #include "serialize/box.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
-#include <sstream>
 #include <string>
 
 namespace {
@@ -77,26 +74,6 @@ TEST(JsonForm, RefusesNumbersThatTheNumberParserWouldMisread) {
   }
   // Inside strings digits are text.
   EXPECT_EQ(FromJson(Value("ryx.object.String", R"("0e-300")"))->As<String>().Get(), "0e-300");
-}
-
-TEST(JsonForm, WritesAndReadsASchemaThroughItsCerealHooks) {
-  Required const schema(Object::TypeIdOf<Int32>(), {Required{Required(Object::TypeIdOf<Bool>())}});
-  std::ostringstream text;
-  {
-    cereal::JSONOutputArchive archive(text);
-    archive(cereal::make_nvp("required", schema));
-  }
-  std::string written = text.str();
-  written.erase(std::remove_if(written.begin(), written.end(), ::isspace), written.end());
-  EXPECT_EQ(written,
-            R"({"required":{"type":)" + std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
-                R"(,"child_types":[{"type":0,"child_types":[{"type":)" +
-                std::to_string(Object::TypeIdOf<Bool>().GetValue()) + R"(,"child_types":[]}]}]}})");
-  std::istringstream in(text.str());
-  cereal::JSONInputArchive archive(in);
-  Required loaded;
-  archive(cereal::make_nvp("required", loaded));
-  EXPECT_EQ(loaded, schema);
 }
 
 }  // namespace
