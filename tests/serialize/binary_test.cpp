@@ -21,14 +21,11 @@ std::string Reversed(std::string const& bytes) { return std::string(bytes.rbegin
 
 TEST(BinaryForm, ReadsABigEndianStreamByReversingMultiByteFields) {
   std::string const big(1, '\0');
-  EXPECT_EQ(FromBinary(big + Reversed(Id("ryx.object.Int32")) + std::string("\x00\x00\x01\x02", 4))
-                ->As<Int32>()
-                .Get(),
-            0x0102);
-  EXPECT_EQ(FromBinary(big + Reversed(Id("ryx.object.String")) + std::string(7, '\0') + "\x02hi")
-                ->As<String>()
-                .Get(),
-            "hi");
+  auto const int32 = FromBinary(big + Reversed(Id("ryx.object.Int32")) + Reversed(Bytes(0x0102)));
+  EXPECT_EQ(int32->As<Int32>().Get(), 0x0102);
+  auto const text = FromBinary(big + Reversed(Id("ryx.object.String")) +
+                               Reversed(Bytes(std::uint64_t{2})) + "hi");
+  EXPECT_EQ(text->As<String>().Get(), "hi");
 }
 
 TEST(BinaryForm, RejectsAnEndiannessOrBoolByteOtherThanZeroOrOneAndAnUnregisteredTypeId) {

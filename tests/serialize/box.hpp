@@ -15,8 +15,8 @@ namespace test {
 
 using ryx::object::Object;
 
-// Primitive values of every kind at the edges of their ranges, and strings
-// with bytes the forms escape.
+// Primitive values at the edges of their ranges beside those the every-kind
+// table of the form tests writes, and a string with bytes the forms escape.
 std::vector<std::shared_ptr<Object const>> ExtremePrimitives();
 
 // [Int32 7, {"name": String "abc"}], both containers under the default schema.
