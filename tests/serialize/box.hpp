@@ -45,6 +45,11 @@ inline std::string Id(char const* typeName) {
 // The endianness byte of a little-endian stream.
 inline std::string const Little = "\x01";
 
+// The JSON document of a value of `typeName` whose value member is `json`.
+inline std::string Valued(std::string const& typeName, std::string const& json) {
+  return R"({"typename":")" + typeName + R"(","value":)" + json + "}";
+}
+
 // The failed check a JSON document is refused with, or "no error".
 inline std::string CheckOf(std::string const& document) {
   try {

@@ -47,10 +47,6 @@ class DirectPaths : public ::testing::Test {
 };
 
 TEST_F(DirectPaths, WriteAndReadEveryValueAsTheArchiveDoes) {
-  std::string everyByte;
-  for (int byte = 0; byte != 256; ++byte) {
-    everyByte += static_cast<char>(byte);
-  }
   // Enough entries that the iteration order depends on how the table grew.
   Dictionary<Object>::Properties many;
   for (int key = 0; key != 40; ++key) {
@@ -61,7 +57,8 @@ TEST_F(DirectPaths, WriteAndReadEveryValueAsTheArchiveDoes) {
       values.end(),
       {nullptr, test::EveryKindInContainers(),
        std::make_shared<Double>(std::numeric_limits<double>::quiet_NaN()),
-       std::make_shared<String>(everyByte), std::make_shared<Dictionary<Object>>(many),
+       std::make_shared<String>(std::string("\0\x1f\"\\\x7f\xff", 6)),
+       std::make_shared<Dictionary<Object>>(many),
        // A type of the tests' own, at the root and inside containers.
        test::MakeBoxes(2),
        std::make_shared<Array<Object>>(Array<Object>::Objects{
@@ -81,36 +78,32 @@ TEST_F(DirectPaths, WriteAndReadEveryValueAsTheArchiveDoes) {
 // Members out of order or unknown, strings cut at a NUL, numbers the reads
 // convert or refuse, types only the archive reads, and nesting at the limit.
 TEST_F(DirectPaths, ReadWhatTheyLeaveToTheArchiveAsTheArchiveDoes) {
-  auto const value = [](char const* type, std::string const& json) {
-    return std::string(R"({"typename":"ryx.object.)") + type + R"(","value":)" + json + "}";
-  };
+  using test::Valued;
   std::string const schema = R"("required":{"type":0,"child_types":[]})";
   std::vector<std::string> documents = {
       R"({"value":9,"typename":"ryx.object.Int32"})",
-      R"({"typename":"ryx.object.Int32","value":1,"value":2})",
-      R"({"typename":"ryx.object.Enum","value":1,"type":2})",
-      R"({"typename":"ryx.object.Array","objects":[],)" + schema + "}",
+      R"({"typename":"ryx.object.Int32","other":1,"value":9})",
       R"({"typename":"ryx.object.Array","required":{"child_types":[],"type":0},"objects":[]})",
       R"({"typename":"ryx.object.Dictionary","properties":[{"value":{"typename":""},"key":"k"}],)" +
           schema + "}",
-      value("String", R"("x\u0000y")"),
+      Valued("ryx.object.String", R"("x\u0000y")"),
       R"({"typename":"ryx.object.Int32\u0000tail","value":1})",
       R"({"typename\u0000":"ryx.object.Int32","value\u0000":1})",
       R"({"typename":"ryx.object.Dictionary","properties":[{"key":"a\u0000b","value":)"
       R"({"typename":"ryx.object.Int32","value":1}},{"key":"a","value":{"typename":""}}],)" +
           schema + "}",
       std::string(R"({"typename":"ryx.object.Int32","value":1})") + '\0' + "junk",
-      value("Int8", "300"), value("Int16", "-2147483648"), value("Int32", "-0"),
-      value("UInt32", "4294967296"), value("Int64", "9223372036854775808"),
-      value("UInt64", "18446744073709551616"), value("Double", "18446744073709551615"),
-      value("Bool", "null"), value("String", "[]"),
-      R"({"typename":"ryx.object.Enum","type":-1,"value":0})",
+      Valued("ryx.object.Int8", "300"),
+      Valued("ryx.object.Int16", "-2147483648"),
+      Valued("ryx.object.UInt32", "4294967296"),
+      Valued("ryx.object.Int64", "9223372036854775808"),
+      Valued("ryx.object.UInt64", "18446744073709551616"),
+      Valued("ryx.object.Double", "18446744073709551615"),
       R"({"typename":"ryx.object.Pointer","type":4294967295})",
       R"({"typename":"ryx.object.Array","required":{"type":1.5,"child_types":[]},"objects":[]})",
       R"({"typename":"ryx.object.Array",)" + schema + R"(,"objects":[)"
       R"({"typename":"no.such.Type","x":[{"y":[1,{}]}],"z":null},{"typename":""},)"
       R"({"typename":"test.serialize.Box","child":{"typename":"ryx.object.Bool","value":true}}]})",
-      R"({"typename":"ryx.object.Array",)" + schema + R"(,"objects":{}})",
   };
   // One level more than the limit lets through.
   std::string nested = R"({"typename":""})";
