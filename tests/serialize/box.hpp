@@ -1,6 +1,6 @@
 // Helpers shared by the serialization tests: the values the round trips run
-// through, the bytes of the binary form, the failed check of a JSON document,
-// and test::Box, a registered test kind that holds one child value, so that
+// through, the bytes of the binary form, a one-value JSON document, and
+// test::Box, a registered test kind that holds one child value, so that
 // nesting can be tested through Save and Load with any depth of values.
 #pragma once
 
@@ -48,16 +48,6 @@ inline std::string const Little = "\x01";
 // The JSON document of a value of `typeName` whose value member is `json`.
 inline std::string Valued(std::string const& typeName, std::string const& json) {
   return R"({"typename":")" + typeName + R"(","value":)" + json + "}";
-}
-
-// The failed check a JSON document is refused with, or "no error".
-inline std::string CheckOf(std::string const& document) {
-  try {
-    ryx::object::FromJson(document);
-  } catch (cereal::archive::JsonParseError const& error) {
-    return error.GetCheck();
-  }
-  return "no error";
 }
 
 inline constexpr char const* BoxName = "test.serialize.Box";

@@ -76,7 +76,7 @@ TEST_F(DirectPaths, WriteAndReadEveryValueAsTheArchiveDoes) {
 }
 
 // Members out of order or unknown, strings cut at a NUL, numbers the reads
-// convert or refuse, types only the archive reads, and nesting at the limit.
+// convert or refuse, types no one registered, and nesting at the limit.
 TEST_F(DirectPaths, ReadWhatTheyLeaveToTheArchiveAsTheArchiveDoes) {
   using test::Valued;
   std::string const schema = R"("required":{"type":0,"child_types":[]})";
@@ -93,17 +93,14 @@ TEST_F(DirectPaths, ReadWhatTheyLeaveToTheArchiveAsTheArchiveDoes) {
       R"({"typename":"ryx.object.Int32","value":1}},{"key":"a","value":{"typename":""}}],)" +
           schema + "}",
       std::string(R"({"typename":"ryx.object.Int32","value":1})") + '\0' + "junk",
-      Valued("ryx.object.Int8", "300"),
-      Valued("ryx.object.Int16", "-2147483648"),
-      Valued("ryx.object.UInt32", "4294967296"),
-      Valued("ryx.object.Int64", "9223372036854775808"),
+      Valued("ryx.object.Int8", "300"), Valued("ryx.object.Int16", "-2147483648"),
+      Valued("ryx.object.UInt32", "4294967296"), Valued("ryx.object.Int64", "9223372036854775808"),
       Valued("ryx.object.UInt64", "18446744073709551616"),
       Valued("ryx.object.Double", "18446744073709551615"),
       R"({"typename":"ryx.object.Pointer","type":4294967295})",
       R"({"typename":"ryx.object.Array","required":{"type":1.5,"child_types":[]},"objects":[]})",
       R"({"typename":"ryx.object.Array",)" + schema + R"(,"objects":[)"
-      R"({"typename":"no.such.Type","x":[{"y":[1,{}]}],"z":null},{"typename":""},)"
-      R"({"typename":"test.serialize.Box","child":{"typename":"ryx.object.Bool","value":true}}]})",
+      R"({"typename":"no.such.Type","x":[{"y":[1,{}]}],"z":null},{"typename":""}]})",
   };
   // One level more than the limit lets through.
   std::string nested = R"({"typename":""})";
@@ -114,14 +111,11 @@ TEST_F(DirectPaths, ReadWhatTheyLeaveToTheArchiveAsTheArchiveDoes) {
   for (std::string const& document : documents) {
     ExpectSameOutcome(document);
   }
-  std::string const array = test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0});
-  ExpectSameBinaryOutcome(array + Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{2}) +
-                          Bytes(std::uint32_t{0}) + Id(test::BoxName) + Id("ryx.object.Int32") +
-                          Bytes(std::int32_t{1}));
   SetNestingLimit(2);
   ExpectSameOutcome(R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[)"
                     R"({"type":0,"child_types":[{"type":0,"child_types":[]}]}]},"objects":[]})");
-  ExpectSameBinaryOutcome(array + Bytes(std::uint64_t{1}) + Bytes(std::uint32_t{0}) +
+  ExpectSameBinaryOutcome(test::Little + Id("ryx.object.Array") + Bytes(std::uint32_t{0}) +
+                          Bytes(std::uint64_t{1}) + Bytes(std::uint32_t{0}) +
                           Bytes(std::uint64_t{1}) + Bytes(std::uint32_t{0}) +
                           Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{0}));
 }

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -24,18 +25,11 @@ std::string XmlDocument(std::string const& children) {
   return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<cereal>\n" + children + "</cereal>\n\n";
 }
 
-mstch::map const& AsMap(mstch::node const& node) { return boost::get<mstch::map>(node); }
-
 // One value and what each form writes for it after its type: the JSON value
 // member, the XML value element, the binary bytes, and the template-data
 // text (none for a Bool, which is a bool node).
-struct Written {
-  std::shared_ptr<Object const> value;
-  std::string json;
-  std::string xml;
-  std::string binary;
-  char const* text;
-};
+using Written =
+    std::tuple<std::shared_ptr<Object const>, std::string, std::string, std::string, char const*>;
 
 std::vector<Written> EveryKind() {
   long const int64Min = std::numeric_limits<long>::min();
@@ -69,19 +63,18 @@ std::vector<Written> EveryKind() {
 }
 
 TEST(PrimitiveForms, EveryKindIsWrittenAsItsTypeAndValueInEveryForm) {
-  for (Written const& written : EveryKind()) {
-    std::string const name = Object::TypeName(written.value->GetType());
-    SCOPED_TRACE(name + " " + written.json);
-    EXPECT_EQ(ToJson(written.value),
-              "{\n    \"typename\": \"" + name + "\",\n    \"value\": " + written.json + "\n}");
-    EXPECT_EQ(ToXml(written.value),
-              XmlDocument("\t<typename>" + name + "</typename>\n\t" + written.xml + "\n"));
-    EXPECT_EQ(ToBinary(written.value), Little + Id(name.c_str()) + written.binary);
+  for (auto const& [value, json, xml, binary, text] : EveryKind()) {
+    std::string const name = Object::TypeName(value->GetType());
+    SCOPED_TRACE(name + " " + json);
+    EXPECT_EQ(ToJson(value),
+              "{\n    \"typename\": \"" + name + "\",\n    \"value\": " + json + "\n}");
+    EXPECT_EQ(ToXml(value), XmlDocument("\t<typename>" + name + "</typename>\n\t" + xml + "\n"));
+    EXPECT_EQ(ToBinary(value), Little + Id(name.c_str()) + binary);
     // The type name, its flags for sections to test, and the value.
-    mstch::map const data = AsMap(ToTemplateData(written.value));
+    mstch::map const data = boost::get<mstch::map>(ToTemplateData(value));
     EXPECT_EQ(data.size(), 3u);
-    if (written.text != nullptr) {
-      EXPECT_EQ(boost::get<std::string>(data.at("value")), written.text);
+    if (text != nullptr) {
+      EXPECT_EQ(boost::get<std::string>(data.at("value")), text);
     } else {
       EXPECT_TRUE(boost::get<bool>(data.at("value")));
     }
@@ -92,7 +85,7 @@ TEST(PrimitiveForms, ANullValueIsWrittenAsAnEmptyTypeAndLoadsAsNull) {
   EXPECT_EQ(ToJson(nullptr), "{\n    \"typename\": \"\"\n}");
   EXPECT_EQ(ToXml(nullptr), XmlDocument("\t<typename></typename>\n"));
   EXPECT_EQ(ToBinary(nullptr), Little + std::string(4, '\0'));
-  mstch::map const data = AsMap(ToTemplateData(nullptr));
+  mstch::map const data = boost::get<mstch::map>(ToTemplateData(nullptr));
   ASSERT_EQ(data.size(), 1u);
   EXPECT_EQ(boost::get<std::string>(data.at("typename")), "");
   EXPECT_EQ(FromJson(ToJson(nullptr)), nullptr);
@@ -105,7 +98,7 @@ TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
   auto const nan = std::make_shared<Double>(std::numeric_limits<double>::quiet_NaN());
   EXPECT_TRUE(std::isnan(FromJson(ToJson(nan))->As<Double>().Get()));
   for (Written const& written : EveryKind()) {
-    values.push_back(written.value);
+    values.push_back(std::get<0>(written));
   }
   for (auto const& value : values) {
     SCOPED_TRACE(ToJson(value));
@@ -118,17 +111,16 @@ TEST(PrimitiveForms, EveryKindAndExtremeValuesRoundTripInEveryForm) {
   }
 }
 
-// A dictionary holding `text` as its key and as its value.
-std::shared_ptr<Object const> Keyed(std::string const& text) {
-  return std::make_shared<Dictionary<Object>>(
-      Dictionary<Object>::Properties{{text, std::make_shared<String>(text)}});
-}
-
 // A string that goes through a form comes back as it was, or as the form
 // documents (the JSON reader ends a string at its first NUL), or the save
 // throws (XML 1.0 cannot hold most control characters, nor bytes that are not
 // UTF-8). Blanks at either end survive XML through xml:space="preserve".
 TEST(PrimitiveForms, AStringComesBackOrIsRefusedButNeverChangesSilently) {
+  // A dictionary holding the text as its key and as its value.
+  auto const keyed = [](std::string const& text) -> std::shared_ptr<Object const> {
+    return std::make_shared<Dictionary<Object>>(
+        Dictionary<Object>::Properties{{text, std::make_shared<String>(text)}});
+  };
   std::vector<std::pair<std::string, bool>> texts;  // and whether XML holds it
   for (int byte = 0; byte <= 0x7F; byte = byte == 0x1F ? 0x7F : byte + 1) {
     texts.emplace_back(std::string("a") + static_cast<char>(byte) + "b",
@@ -145,9 +137,9 @@ TEST(PrimitiveForms, AStringComesBackOrIsRefusedButNeverChangesSilently) {
   }
   for (auto const& [text, xmlHolds] : texts) {
     SCOPED_TRACE(::testing::PrintToString(text));
-    auto const value = Keyed(text);
+    auto const value = keyed(text);
     EXPECT_TRUE(FromBinary(ToBinary(value))->EqualTo(*value));
-    EXPECT_TRUE(FromJson(ToJson(value))->EqualTo(*Keyed(text.substr(0, text.find('\0')))));
+    EXPECT_TRUE(FromJson(ToJson(value))->EqualTo(*keyed(text.substr(0, text.find('\0')))));
     if (xmlHolds) {
       EXPECT_TRUE(FromXml(ToXml(value))->EqualTo(*value));
     } else {
@@ -159,7 +151,7 @@ TEST(PrimitiveForms, AStringComesBackOrIsRefusedButNeverChangesSilently) {
                 [] { ToXml(std::make_shared<String>(std::string("a\0b", 3))); }),
             "Cannot save the string in the XML form: XML 1.0 cannot hold the control character "
             "0x00 at byte offset 1");
-  EXPECT_EQ(MessageOf<std::runtime_error>([] { ToXml(Keyed("ok\xff")); }),
+  EXPECT_EQ(MessageOf<std::runtime_error>([&] { ToXml(keyed("ok\xff")); }),
             "Cannot save the dictionary key in the XML form: the byte 0xFF does not start a valid "
             "UTF-8 sequence at byte offset 2");
 }

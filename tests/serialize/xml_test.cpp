@@ -1,10 +1,12 @@
 // What the XML reader accepts and refuses, before and after its depth check.
 #include <ryx/object.hpp>
 
+#include <boost/algorithm/string/join.hpp>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -15,12 +17,8 @@ std::shared_ptr<Object> Load(std::string const& typeName, std::string const& tex
                  "</value></cereal>");
 }
 
-std::string Repeated(char const* text, int times) {
-  std::string repeated;
-  for (int i = 0; i != times; ++i) {
-    repeated += text;
-  }
-  return repeated;
+std::string Repeated(std::string const& text, std::size_t times) {
+  return boost::algorithm::join(std::vector<std::string>(times, text), "");
 }
 
 TEST(XmlForm, ConvertsTextAsTheStandardConversionsDo) {
