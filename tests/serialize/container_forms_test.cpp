@@ -2,9 +2,9 @@
 // hand-written documents and through round trips.
 #include "serialize/box.hpp"
 
+#include <boost/algorithm/string/erase.hpp>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -25,9 +25,8 @@ TEST(ContainerForms, WriteTheExampleInEveryForm) {
                 R"({"typename":"ryx.object.Dictionary","properties":[{"key":"name","value":)"
                 R"({"typename":"ryx.object.String","value":"abc"}}],)" +
                 schema + "}]}");
-  std::string xml = ToXml(Example());
-  xml.erase(std::remove_if(xml.begin(), xml.end(), [](char c) { return c == '\t' || c == '\n'; }),
-            xml.end());
+  std::string const xml =
+      boost::erase_all_copy(boost::erase_all_copy(ToXml(Example()), "\t"), "\n");
   std::string const xmlSchema =
       R"(<required><type>0</type><child_types size="dynamic"/></required>)";
   EXPECT_EQ(xml, R"(<?xml version="1.0" encoding="utf-8"?><cereal><typename>ryx.object.Array)"

@@ -156,8 +156,9 @@ TEST(PrimitiveForms, AStringComesBackOrIsRefusedButNeverChangesSilently) {
             "UTF-8 sequence at byte offset 2");
 }
 
-TEST(TemplateDataArchive, AppendsToListsAndRefusesToCloseTheRoot) {
+TEST(TemplateDataArchive, AppendsToListsAndRefusesToTurnOrCloseTheRoot) {
   ryx::templating::serialize::archive::output::Data archive;
+  EXPECT_THROW(archive.MakeArray(2), std::logic_error);
   archive.SetNextName("items");
   archive.StartNode();
   archive.MakeArray(2);

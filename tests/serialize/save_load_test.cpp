@@ -27,14 +27,13 @@ TEST_F(SaveLoad, AFailedLoadKeepsThePreviousValueAndAContainerAsItWas) {
   cereal::JSONInputArchive archive(in);
   EXPECT_THROW(Load(archive, value), cereal::archive::JsonParseError);
   EXPECT_EQ(value->As<Int32>().Get(), 5);
-  Required const int32Schema(Object::TypeIdOf<Int32>());
-  Array<Object> target(int32Schema, {std::make_shared<Int32>(9)});
+  Array<Object> target(ryx::object::testing::Int32Schema, {std::make_shared<Int32>(9)});
   std::istringstream list(
       R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[]},"objects":5})");
   cereal::JSONInputArchive listArchive(list);
   EXPECT_THROW(target.Serialize(listArchive), cereal::archive::JsonParseError);
   EXPECT_EQ(target.Size(), 1u);
-  EXPECT_EQ(target.GetRequired(), int32Schema);
+  EXPECT_EQ(target.GetRequired(), ryx::object::testing::Int32Schema);
 }
 
 TEST_F(SaveLoad, ADirectLoadReadsTheTypeRecordAndRefusesAnotherType) {
