@@ -1,10 +1,12 @@
 // What the XML reader accepts and refuses, before and after its depth check.
 #include <ryx/object.hpp>
 
+#include <boost/algorithm/string/join.hpp>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -15,12 +17,8 @@ std::shared_ptr<Object> Load(std::string const& typeName, std::string const& tex
                  "</value></cereal>");
 }
 
-std::string Repeated(char const* text, int times) {
-  std::string repeated;
-  for (int i = 0; i != times; ++i) {
-    repeated += text;
-  }
-  return repeated;
+std::string Repeated(std::string const& text, std::size_t times) {
+  return boost::algorithm::join(std::vector<std::string>(times, text), "");
 }
 
 TEST(XmlForm, ConvertsTextAsTheStandardConversionsDo) {
@@ -46,11 +44,12 @@ TEST(XmlForm, RefusesMalformedEmptyAndCutDocuments) {
   }
 }
 
-TEST(XmlForm, RefusesAMillionNestedElementsBeforeParsing) {
+// A million nested elements are refused before parsing, also where markup
+// the parser reads as elements hides them; the deepest document let through
+// is parsed.
+TEST(XmlForm, CountsNestedElementsBeforeParsing) {
   EXPECT_THROW(FromXml("<cereal>" + Repeated("<a>", 1000000)), NestingLimitError);
-}
-
-TEST(XmlForm, CountsElementsHiddenBehindMarkupTheParserReadsAsElements) {
+  EXPECT_THROW(FromXml("<cereal>" + Repeated("<a>", 5000)), cereal::Exception);
   std::string const deep = Repeated("<a>", 100000);
   // An element name may contain quotes; attribute values may contain '>'.
   EXPECT_THROW(FromXml("<cereal><a\"" + deep + "\">"), NestingLimitError);
@@ -61,10 +60,6 @@ TEST(XmlForm, CountsElementsHiddenBehindMarkupTheParserReadsAsElements) {
   // Comments and character data hold no elements.
   EXPECT_THROW(FromXml("<cereal><!--" + deep + "--></cereal>"), cereal::Exception);
   EXPECT_THROW(FromXml("<cereal><![CDATA[" + deep + "]]></cereal>"), cereal::Exception);
-}
-
-TEST(XmlForm, ParsesTheDeepestDocumentTheDepthCheckLetsThrough) {
-  EXPECT_THROW(FromXml("<cereal>" + Repeated("<a>", 5000)), cereal::Exception);
 }
 
 }  // namespace
