@@ -2,10 +2,10 @@
 // nothing, ownership of the elements, deep copies and comparison.
 #include "support.hpp"
 
-#include <initializer_list>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -20,29 +20,24 @@ std::string const SizeMismatch =
     "Array size must be the same as Required size for Required with null type.";
 
 // What loading a null record leaves behind: an empty slot, which copies and
-// compares like any other element.
+// compares like any other element, and equals only an empty slot.
 TEST(Containers, CopyAndCompareANullElementLeftByLoading) {
   Array<Object> array(Objects{MakeInt(1), MakeInt(2)});
-  *array.GetSlot(1) = nullptr;
-  EXPECT_EQ(array.GetSlot(2), nullptr);
   Dictionary<Object> dictionary(DictionaryId(), Int32Schema,
                                 Properties{{"a", MakeInt(1)}, {"b", MakeInt(2)}});
+  Array<Object> const fullArray(array);
+  Dictionary<Object> const fullDictionary(dictionary);
+  *array.GetSlot(1) = nullptr;
   *dictionary.GetSlot("b") = nullptr;
-  for (Object const* source : std::initializer_list<Object const*>{&array, &dictionary}) {
-    auto const copy = Object::Copy(*source);
+  std::pair<Object const*, Object const*> const pairs[] = {{&array, &fullArray},
+                                                           {&dictionary, &fullDictionary}};
+  for (auto const& [holed, full] : pairs) {
+    auto const copy = Object::Copy(*holed);
     ASSERT_TRUE(copy);
-    EXPECT_TRUE(copy->EqualTo(*source));
+    EXPECT_TRUE(copy->EqualTo(*holed));
+    EXPECT_FALSE(holed->EqualTo(*full));
+    EXPECT_FALSE(full->EqualTo(*holed));
   }
-  EXPECT_EQ(Object::Copy(array)->As<Array<Object>>().Get(1), nullptr);
-  EXPECT_EQ(Object::Copy(dictionary)->As<Dictionary<Object>>().Get("b"), nullptr);
-  // A null element equals only a null element, from either side.
-  Array<Object> const arrayOfValues(Objects{MakeInt(1), MakeInt(2)});
-  Dictionary<Object> const dictionaryOfValues(DictionaryId(), Int32Schema,
-                                              Properties{{"a", MakeInt(1)}, {"b", MakeInt(2)}});
-  EXPECT_FALSE(array.EqualTo(arrayOfValues));
-  EXPECT_FALSE(arrayOfValues.EqualTo(array));
-  EXPECT_FALSE(dictionary.EqualTo(dictionaryOfValues));
-  EXPECT_FALSE(dictionaryOfValues.EqualTo(dictionary));
 }
 
 TEST(Containers, CompareSizesKeysElementsAndSchemasButNotOtherKinds) {
@@ -137,7 +132,11 @@ TEST(Array, APerPositionSchemaChecksTheWholeListAgainstItsChildren) {
   Required const pair{Int32Schema, StringSchema};
   EXPECT_EQ(MessageOf<std::invalid_argument>([&] { Array<Object>(pair, {MakeInt(1)}); }),
             SizeMismatch);
-  Array<Object> array(pair, {MakeInt(1), MakeString("a")});
+  // SetRequired checks the elements held before it replaces the schema.
+  Array<Object> array(Objects{MakeInt(1), MakeString("a")});
+  EXPECT_THROW(array.SetRequired(Int32Schema), std::invalid_argument);
+  EXPECT_EQ(array.GetRequired(), Required());
+  array.SetRequired(pair);
   array.Set(1, MakeString("b"));
   Snapshot const before = Snapshot::Of(array);
   // The schema test comes before the range test.
@@ -156,14 +155,6 @@ TEST(Array, APerPositionSchemaChecksTheWholeListAgainstItsChildren) {
   EXPECT_EQ(ints.Size(), 3u);
 }
 
-TEST(Array, SetRequiredChecksTheElementsHeldBeforeItReplacesTheSchema) {
-  Array<Object> array(Objects{MakeInt(1), MakeString("x")});
-  EXPECT_THROW(array.SetRequired(Int32Schema), std::invalid_argument);
-  EXPECT_EQ(array.GetRequired(), Required());
-  array.SetRequired(Required{Int32Schema, StringSchema});
-  EXPECT_EQ(array.GetRequired(), (Required{Int32Schema, StringSchema}));
-}
-
 // Set, Insert and Pop are checked with their messages through the C functions.
 TEST(Array, ReportsTheIndexAndSizeOfAnOutOfRangeAccess) {
   Array<Object> array(Objects{MakeInt(0), MakeInt(1), MakeInt(2)});
@@ -175,17 +166,21 @@ TEST(Array, ReportsTheIndexAndSizeOfAnOutOfRangeAccess) {
   EXPECT_EQ(array.Size(), 4u);
 }
 
-TEST(Array, RequiredMakesAnEmptyArrayCarryingASingleChildAsItsSchema) {
-  auto const typed = Required(ArraySchema.GetType(), {Int32Schema}).Make();
-  ASSERT_TRUE(typed && typed->Is<Array<Object>>());
-  EXPECT_EQ(typed->GetRequired(), Int32Schema);
-  auto const untyped = Required(ArraySchema.GetType(), {Int32Schema, StringSchema}).Make();
-  ASSERT_TRUE(untyped);
-  EXPECT_EQ(untyped->GetRequired(), Required());
+// A per-position schema cannot describe a dictionary's values.
+TEST(Containers, RequiredMakesAnEmptyContainerCarryingASingleChildAsItsSchema) {
   Required const pair{Int32Schema, StringSchema};
-  auto const perPosition = Required(ArraySchema.GetType(), {pair}).Make();
-  ASSERT_TRUE(perPosition);
-  EXPECT_EQ(perPosition->GetRequired(), pair);
+  std::pair<Required, Required> const cases[] = {
+      {Required(ArraySchema.GetType(), {Int32Schema}), Int32Schema},
+      {Required(ArraySchema.GetType(), {Int32Schema, StringSchema}), Required()},
+      {Required(ArraySchema.GetType(), {pair}), pair},
+      {Required(DictionaryId(), {Int32Schema}), Int32Schema},
+  };
+  for (auto const& [schema, expected] : cases) {
+    auto const made = schema.Make();
+    ASSERT_TRUE(made && made->GetType() == schema.GetType());
+    EXPECT_EQ(made->GetRequired(), expected);
+  }
+  EXPECT_THROW(Required(DictionaryId(), {Required{Int32Schema}}).Make(), std::invalid_argument);
 }
 
 // Construction refuses null values but does not check the schema; Insert
@@ -211,17 +206,13 @@ TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
 
 // A per-position schema cannot describe a dictionary's values, so such a
 // source is refused, and the target is left empty.
-TEST(Dictionary, RefusesAPerPositionSchemaFromACopyOrASchema) {
+TEST(Dictionary, RefusesToCopyASourceWithAPerPositionSchema) {
   Dictionary<Object> const source(DictionaryId(), Required{Int32Schema},
                                   Properties{{"a", MakeInt(1)}});
   Dictionary<Object> target(Properties{{"b", MakeInt(2)}});
   EXPECT_EQ(MessageOf<std::invalid_argument>([&] { target.Set(source); }), SizeMismatch);
   EXPECT_TRUE(target.Empty());
   EXPECT_EQ(target.GetRequired(), Required());
-  EXPECT_THROW(Required(DictionaryId(), {Required{Int32Schema}}).Make(), std::invalid_argument);
-  auto const made = Required(DictionaryId(), {Int32Schema}).Make();
-  ASSERT_TRUE(made && made->Is<Dictionary<Object>>());
-  EXPECT_EQ(made->GetRequired(), Int32Schema);
 }
 
 TEST(Property, HoldsAKeyAndANonNullObject) {
