@@ -95,6 +95,13 @@ TEST(Containers, AFailedCopyNamesTheCauseAndLeavesTheTargetAsItWas) {
       "Failed to copy dictionary element 'odd': ");
   EXPECT_EQ(Snapshot::Of(array), arrayBefore);
   EXPECT_EQ(Snapshot::Of(dictionary), dictionaryBefore);
+  // A per-position schema cannot describe a dictionary's values: such a
+  // source is refused once the entries went, and the target is left empty.
+  Dictionary<Object> const perPosition(DictionaryId(), Required{Int32Schema},
+                                       Properties{{"a", MakeInt(1)}});
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { dictionary.Set(perPosition); }), SizeMismatch);
+  EXPECT_TRUE(dictionary.Empty());
+  EXPECT_EQ(dictionary.GetRequired(), Required());
 }
 
 // Construction, Set, Append, Prepend and Insert each check what they add.
@@ -195,17 +202,6 @@ TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
   Dictionary<Object> perPosition(DictionaryId(), Required{Int32Schema, StringSchema}, Properties{});
   perPosition.Insert("a", MakeBool(true));
   EXPECT_EQ(perPosition.Size(), 1u);
-}
-
-// A per-position schema cannot describe a dictionary's values, so such a
-// source is refused, and the target is left empty.
-TEST(Dictionary, RefusesToCopyASourceWithAPerPositionSchema) {
-  Dictionary<Object> const source(DictionaryId(), Required{Int32Schema},
-                                  Properties{{"a", MakeInt(1)}});
-  Dictionary<Object> target(Properties{{"b", MakeInt(2)}});
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { target.Set(source); }), SizeMismatch);
-  EXPECT_TRUE(target.Empty());
-  EXPECT_EQ(target.GetRequired(), Required());
 }
 
 TEST(Property, HoldsAKeyAndANonNullObject) {
