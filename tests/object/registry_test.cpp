@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <iterator>
 #include <sstream>
 #include <thread>
 
@@ -20,10 +21,9 @@ char const* const KindNames[] = {
     "ryx.object.Array",        "ryx.object.Dictionary", "ryx.object.Enum",   "ryx.object.Pointer",
     "ryx.object.ConstPointer",
 };
-constexpr std::size_t KindCount = sizeof(KindNames) / sizeof(KindNames[0]);
 
 TEST(Registry, HoldsExactlyTheLibraryKindsEachNamedAndMakingAFreshEmptyDefaultValue) {
-  EXPECT_EQ(registry::Get().GetMap()->size(), KindCount);
+  EXPECT_EQ(registry::Get().GetMap()->size(), std::size(KindNames));
   for (char const* name : KindNames) {
     SCOPED_TRACE(name);
     MurmurThree32 const id = MurmurThree32::MakeData(name);
@@ -35,9 +35,7 @@ TEST(Registry, HoldsExactlyTheLibraryKindsEachNamedAndMakingAFreshEmptyDefaultVa
     EXPECT_TRUE(begin(*made) == end(*made) && cbegin(*made) == cend(*made));
     EXPECT_EQ(made->GetRequired(), Required());
     EXPECT_NE(Object::Make(id), made);
-    auto const construct = Object::GetConstructFunction(id);
-    ASSERT_TRUE(construct);
-    EXPECT_EQ(construct()->GetType(), id);
+    EXPECT_EQ(Object::GetConstructFunction(id)()->GetType(), id);
   }
 }
 
