@@ -159,12 +159,12 @@ TEST(Array, APerPositionSchemaChecksTheWholeListAgainstItsChildren) {
   EXPECT_EQ(ints.Size(), 3u);
 }
 
-// Set, Insert and Pop report it through the C functions, which check their
-// bounds and messages.
-TEST(Array, GetReportsTheIndexAndSizeOfAnOutOfRangeAccess) {
-  Array<Object> const array(Objects{MakeInt(0), MakeInt(1), MakeInt(2)});
+// The C tests check Insert's and Pop's bounds, and the messages of the rest.
+TEST(Array, ReportsTheIndexAndSizeOfAnOutOfRangeAccess) {
+  Array<Object> array(Objects{MakeInt(0), MakeInt(1), MakeInt(2)});
   EXPECT_EQ(MessageOf<std::out_of_range>([&] { array.Get(3); }),
             "The index is out of range: 3 >= 3");
+  EXPECT_THROW(array.Set(3, MakeInt(9)), std::out_of_range);
 }
 
 // A per-position schema cannot describe a dictionary's values.
