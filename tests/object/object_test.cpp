@@ -4,7 +4,6 @@
 
 #include <limits>
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -12,12 +11,6 @@ namespace {
 
 using namespace ryx::object;
 using namespace ryx::object::testing;
-
-std::string Printed(Object const& value) {
-  std::ostringstream os;
-  os << value;
-  return os.str();
-}
 
 TEST(Object, IsAndAsMatchTheExactTypeOnly) {
   std::shared_ptr<Object> const value = std::make_shared<Int64>(8);
@@ -31,11 +24,13 @@ TEST(Object, IsAndAsMatchTheExactTypeOnly) {
 }
 
 TEST(Object, PrintsItsTypeNameOrNotRegisteredAndItsId) {
-  EXPECT_EQ(Printed(Int32(3)), "{\"type\":\"ryx.object.Int32\",\"id\":" +
-                                   std::to_string(Object::TypeIdOf<Int32>().GetValue()) + "}");
+  EXPECT_EQ(::testing::PrintToString(Int32(3)),
+            "{\"type\":\"ryx.object.Int32\",\"id\":" +
+                std::to_string(Object::TypeIdOf<Int32>().GetValue()) + "}");
   Unregistered const foreign;
-  EXPECT_EQ(Printed(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
-                                  std::to_string(foreign.GetType().GetValue()) + "}");
+  EXPECT_EQ(::testing::PrintToString(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
+                                                   std::to_string(foreign.GetType().GetValue()) +
+                                                   "}");
   EXPECT_EQ(MessageOf<BadCast>([&] { foreign.As<Int32>(); }),
             "Failed to cast the runtime object from '[not-registered]' to a 'ryx.object.Int32'");
 }

@@ -1,7 +1,6 @@
 #include "support.hpp"
 
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <unordered_map>
@@ -23,12 +22,6 @@ std::string const SizeMismatch =
 template <class Call>
 std::string InvalidArgumentOf(Call call) {
   return MessageOf<std::invalid_argument>(call);
-}
-
-std::string Printed(Required const& required) {
-  std::ostringstream os;
-  os << required;
-  return os.str();
 }
 
 TEST(Required, TheEmptySchemaAcceptsEveryValueButNull) {
@@ -112,12 +105,12 @@ TEST(Required, MakesAValueOfARegisteredTypeOnly) {
 }
 
 TEST(Required, PrintsNamesOrIdsAndItsChildren) {
-  EXPECT_EQ(Printed(Required()), "{\"types\":[], \"type:\"0}");
-  EXPECT_EQ(Printed(Required(StringId, {Required(Int32Id), Required(DoubleId)})),
+  EXPECT_EQ(::testing::PrintToString(Required()), "{\"types\":[], \"type:\"0}");
+  EXPECT_EQ(::testing::PrintToString(Required(StringId, {Required(Int32Id), Required(DoubleId)})),
             "{\"types\":[{\"types\":[], \"type:\"ryx.object.Int32},{\"types\":[], "
             "\"type:\"ryx.object.Double}], \"type:\"ryx.object.String}");
   MurmurThree32 const unknown = MurmurThree32::MakeData("no.such.Type");
-  EXPECT_EQ(Printed(Required(unknown)),
+  EXPECT_EQ(::testing::PrintToString(Required(unknown)),
             "{\"types\":[], \"type:\"" + std::to_string(unknown.GetValue()) + "}");
 }
 
