@@ -13,30 +13,32 @@ namespace {
 using ryx::object::Parse;
 using ryx::object::testing::MessageOf;
 
-// Both bounds of each T parse; one beyond either is refused naming T's range.
-// An unsigned type's "-1" wraps before the check and is covered on its own.
-template <class... Ts>
+// Both bounds of T parse; one beyond either is refused naming T's range. An
+// unsigned type's "-1" wraps before the check and is covered on its own.
+template <class T>
 void ExpectBoundsOf() {
-  ([] {
-    using T = Ts;
-    SCOPED_TRACE(typeid(T).name());
-    long long const min = std::numeric_limits<T>::min();
-    long long const max = std::numeric_limits<T>::max();
-    EXPECT_EQ(Parse<T>(std::to_string(min)), min);
-    EXPECT_EQ(Parse<T>(std::to_string(max)), max);
-    std::string const range = std::to_string(min) + " to " + std::to_string(max);
-    for (long long const beyond : {min - 1, max + 1}) {
-      if (beyond >= 0 || min < 0) {
-        EXPECT_EQ(MessageOf<std::out_of_range>([&] { Parse<T>(std::to_string(beyond)); }),
-                  "The parsed value '" + std::to_string(beyond) +
-                      "' was out of range of the integer type: " + range);
-      }
+  SCOPED_TRACE(typeid(T).name());
+  long long const min = std::numeric_limits<T>::min();
+  long long const max = std::numeric_limits<T>::max();
+  EXPECT_EQ(Parse<T>(std::to_string(min)), min);
+  EXPECT_EQ(Parse<T>(std::to_string(max)), max);
+  std::string const range = std::to_string(min) + " to " + std::to_string(max);
+  for (long long const beyond : {min - 1, max + 1}) {
+    if (beyond >= 0 || min < 0) {
+      EXPECT_EQ(MessageOf<std::out_of_range>([&] { Parse<T>(std::to_string(beyond)); }),
+                "The parsed value '" + std::to_string(beyond) +
+                    "' was out of range of the integer type: " + range);
     }
-  }(), ...);
+  }
 }
 
 TEST(ParseIntegers, AcceptEveryWidthsBoundsAndRefuseOneBeyondNamingTheRange) {
-  ExpectBoundsOf<signed char, short, int, unsigned char, unsigned short, unsigned int>();
+  ExpectBoundsOf<signed char>();
+  ExpectBoundsOf<short>();
+  ExpectBoundsOf<int>();
+  ExpectBoundsOf<unsigned char>();
+  ExpectBoundsOf<unsigned short>();
+  ExpectBoundsOf<unsigned int>();
   EXPECT_EQ(MessageOf<std::out_of_range>([] { Parse<unsigned char>("300"); }),
             "The parsed value '300' was out of range of the integer type: 0 to 255");
   EXPECT_EQ(Parse<long>("-9223372036854775808"), std::numeric_limits<long>::min());
