@@ -64,44 +64,36 @@ TEST(Enum, EqualsOnlyAnEnumeratorOfTheSameEnumerationAndValue) {
   EXPECT_EQ(none.GetRawValue(), 0u);
 }
 
-TEST(Pointer, TheFirstNonNullPointeeTypeIsFixed) {
+// The first non-null pointee type is fixed. Equal means the same address,
+// whatever the pointee types, in values of one kind; a value set from another
+// shares its pointee.
+TEST(Pointer, FixesTheFirstPointeeTypeAndComparesAddressesOfTheSameKindOnly) {
   MurmurThree32 const a = MurmurThree32::MakeData("test.A");
   MurmurThree32 const b = MurmurThree32::MakeData("test.B");
   auto const p = std::make_shared<int>(1);
   auto const q = std::make_shared<int>(2);
-  MutablePointer value;
-  value.Set(p, a);
-  value.Set(q, a);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { value.Set(p, b); }),
+  MutablePointer typed;
+  typed.Set(p, a);
+  typed.Set(q, a);
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { typed.Set(p, b); }),
             "Cannot set value from pointer of different type");
-  EXPECT_EQ(value.GetPointer(), q);
-  EXPECT_EQ(value.GetPointeeType(), a);
+  EXPECT_EQ(typed.GetPointer(), q);
+  EXPECT_EQ(typed.GetPointeeType(), a);
   MutablePointer untyped;
   untyped.Set(p, MurmurThree32());
   untyped.Set(q, b);
   EXPECT_EQ(untyped.GetPointeeType(), b);
-}
-
-// Equal means the same address, whatever the pointee types, in values of one
-// kind; a value set from another shares its pointee.
-TEST(Pointer, ComparesAddressesOfTheSameKindOnlyAndSharesThePointeeOfAnother) {
-  auto const shared = std::make_shared<int>(1);
-  MutablePointer typed;
-  typed.Set(shared, MurmurThree32::MakeData("test.A"));
-  MutablePointer untyped;
-  untyped.Set(shared, MurmurThree32());
   EXPECT_TRUE(typed.EqualTo(untyped));
-  MutablePointer other;
-  other.Set(std::make_shared<int>(1), MurmurThree32::MakeData("test.A"));
-  EXPECT_FALSE(typed.EqualTo(other));
+  untyped.Set(p, b);
+  EXPECT_FALSE(typed.EqualTo(untyped));
   ConstPointer constant;
-  constant.Set(shared, MurmurThree32());
+  constant.Set(q, MurmurThree32());
   EXPECT_FALSE(typed.EqualTo(constant));
   EXPECT_FALSE(constant.EqualTo(typed));
   MutablePointer target;
   target.Set(typed);
-  EXPECT_EQ(target.GetPointer(), shared);
-  EXPECT_EQ(target.GetPointeeType(), typed.GetPointeeType());
+  EXPECT_EQ(target.GetPointer(), q);
+  EXPECT_EQ(target.GetPointeeType(), a);
   EXPECT_THROW(target.Set(ConstPointer()), BadCast);
 }
 
