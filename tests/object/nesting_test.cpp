@@ -10,6 +10,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -106,63 +107,45 @@ TEST(Nesting, CopyAndCompareWorkUpToTheLimitAndRefuseToGoDeeper) {
   }
 }
 
-// The documents are written on a thread with room for any of the depths,
-// without indentation, which would grow with the square of the depth.
-struct Documents {
-  std::string json;
-  std::string xml;
-  std::string binary;
-};
-
-Documents Write(std::shared_ptr<Object const> const& value) {
-  std::ostringstream json;
-  std::ostringstream xml;
-  std::string binary;
-  EXPECT_EQ(RunOnStack(64 << 20,
-                       [&] {
-                         cereal::JSONOutputArchive jsonArchive(
-                             json, cereal::JSONOutputArchive::Options::NoIndent());
-                         Save(jsonArchive, value);
-                         cereal::XMLOutputArchive xmlArchive(
-                             xml, cereal::XMLOutputArchive::Options().indent(false));
-                         Save(xmlArchive, value);
-                         binary = ToBinary(value);
-                       }),
-            "finished");
-  return {json.str(), xml.str(), binary};
-}
-
-struct Operation {
-  char const* name;
-  std::function<void(std::shared_ptr<Object> const&, Documents const&)> run;
-};
-
-Operation const operations[] = {
-    {"ToJson", [](auto const& value, auto const&) { ToJson(value); }},
-    {"FromJson", [](auto const&, auto const& documents) { FromJson(documents.json); }},
-    {"ToXml", [](auto const& value, auto const&) { ToXml(value); }},
-    {"FromXml", [](auto const&, auto const& documents) { FromXml(documents.xml); }},
-    {"ToBinary", [](auto const& value, auto const&) { ToBinary(value); }},
-    {"FromBinary", [](auto const&, auto const& documents) { FromBinary(documents.binary); }},
-    {"Copy", [](auto const& value, auto const&) { Object::Copy(*value); }},
-    {"EqualTo", [](auto const& value, auto const&) { static_cast<void>(value->EqualTo(*value)); }},
-    {"ToTemplateData", [](auto const& value, auto const&) { ToTemplateData(value); }},
-    // The renderer copies the tree again for each section it enters.
-    {"Render", [](auto const& value, auto const&) { Render("{{#objects}}.{{/objects}}", value); }},
-};
-
 TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
   // Only the stack stops these depths.
   SetNestingLimit(1000000);
   for (std::size_t depth : {500, 999, 5000}) {
     for (std::shared_ptr<Object> const& value : {Nest(depth), NestSchema(depth)}) {
-      Documents const documents = Write(value);
+      // Written on a thread with room for any of the depths, without
+      // indentation, which would grow with the square of the depth.
+      std::ostringstream json;
+      std::ostringstream xml;
+      std::string binary;
+      EXPECT_EQ(RunOnStack(64 << 20,
+                           [&] {
+                             cereal::JSONOutputArchive jsonArchive(
+                                 json, cereal::JSONOutputArchive::Options::NoIndent());
+                             Save(jsonArchive, value);
+                             cereal::XMLOutputArchive xmlArchive(
+                                 xml, cereal::XMLOutputArchive::Options().indent(false));
+                             Save(xmlArchive, value);
+                             binary = ToBinary(value);
+                           }),
+                "finished");
+      std::pair<char const*, std::function<void()>> const operations[] = {
+          {"ToJson", [&] { ToJson(value); }},
+          {"FromJson", [&] { FromJson(json.str()); }},
+          {"ToXml", [&] { ToXml(value); }},
+          {"FromXml", [&] { FromXml(xml.str()); }},
+          {"ToBinary", [&] { ToBinary(value); }},
+          {"FromBinary", [&] { FromBinary(binary); }},
+          {"Copy", [&] { Object::Copy(*value); }},
+          {"EqualTo", [&] { static_cast<void>(value->EqualTo(*value)); }},
+          {"ToTemplateData", [&] { ToTemplateData(value); }},
+          // The renderer copies the tree again for each section it enters.
+          {"Render", [&] { Render("{{#objects}}.{{/objects}}", value); }},
+      };
       for (std::size_t stackSize : {128 << 10, 256 << 10}) {
-        for (Operation const& operation : operations) {
-          std::string const outcome =
-              RunOnStack(stackSize, [&] { operation.run(value, documents); });
+        for (auto const& [name, operation] : operations) {
+          std::string const outcome = RunOnStack(stackSize, operation);
           EXPECT_TRUE(outcome == "finished" || outcome == "refused")
-              << operation.name << " at depth " << depth << " on " << (stackSize >> 10)
+              << name << " at depth " << depth << " on " << (stackSize >> 10)
               << " KiB: " << outcome;
         }
       }
