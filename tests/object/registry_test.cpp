@@ -3,11 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <chrono>
+#include <future>
 #include <iterator>
 #include <sstream>
-#include <thread>
 
 namespace {
 
@@ -76,19 +75,14 @@ TEST(Registry, KeepsTheFirstRecordOfAnIdUntilItIsDeregistered) {
 }
 
 TEST(Registry, ALockObjectBlocksOtherUsersUntilItIsDestroyed) {
-  std::atomic<bool> looked{false};
-  std::thread other;
+  std::future<char const*> name;
   {
     auto const lock = registry::Get().GetMap();
-    other = std::thread([&] {
-      Object::TypeName(Object::TypeIdOf<Int32>());
-      looked = true;
-    });
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_FALSE(looked);
+    name =
+        std::async(std::launch::async, [] { return Object::TypeName(Object::TypeIdOf<Int32>()); });
+    EXPECT_EQ(name.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
   }
-  other.join();
-  EXPECT_TRUE(looked);
+  EXPECT_STREQ(name.get(), "ryx.object.Int32");
 }
 
 }  // namespace
