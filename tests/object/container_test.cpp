@@ -166,10 +166,13 @@ TEST(Array, ReportsTheIndexAndSizeOfAnOutOfRangeAccess) {
   EXPECT_THROW(array.Set(3, MakeInt(9)), std::out_of_range);
 }
 
-// A per-position schema cannot describe a dictionary's values.
-TEST(Containers, RequiredMakesAnEmptyContainerCarryingASingleChildAsItsSchema) {
+// A made container takes a single child as its schema; a per-position one
+// cannot describe a dictionary's values. Nothing is made of a null or
+// unregistered type.
+TEST(Containers, RequiredMakesAnEmptyValueCarryingASingleChildAsItsSchema) {
   Required const pair{Int32Schema, StringSchema};
   std::pair<Required, Required> const cases[] = {
+      {Required(Object::TypeIdOf<Double>()), Required()},
       {Required(ArraySchema.GetType(), {Int32Schema}), Int32Schema},
       {Required(ArraySchema.GetType(), {Int32Schema, StringSchema}), Required()},
       {Required(ArraySchema.GetType(), {pair}), pair},
@@ -181,6 +184,10 @@ TEST(Containers, RequiredMakesAnEmptyContainerCarryingASingleChildAsItsSchema) {
     EXPECT_EQ(made->GetRequired(), expected);
   }
   EXPECT_THROW(Required(DictionaryId(), {Required{Int32Schema}}).Make(), std::invalid_argument);
+  for (Required const& none :
+       {Required(), pair, Required(ryx::hash::MurmurThree32::MakeData("x"))}) {
+    EXPECT_EQ(none.Make(), nullptr);
+  }
 }
 
 // Construction refuses null values but does not check the schema; Insert

@@ -59,17 +59,22 @@ TEST(Required, ComparesWholeTreesAndLeavesAMovedFromSchemaWithItsTypeAlone) {
   EXPECT_EQ(copy, Required(Int32Id));
 }
 
+// The second message prints both schemas, each type by name or else by id,
+// with its children in order.
 TEST(Required, ATypedSchemaChecksTheValuesTypeAndThatOnlyContainersHaveChildTypes) {
+  MurmurThree32 const unknown = MurmurThree32::MakeData("no.such.Type");
   EXPECT_NO_THROW(Required(Int32Id).Check(Int32(1)));
   EXPECT_EQ(InvalidArgumentOf([&] { Required(Int32Id).Check(Double(1)); }),
             "The object 'ryx.object.Double' did not match the required type 'ryx.object.Int32'");
-  EXPECT_EQ(InvalidArgumentOf(
-                [&] { Required(MurmurThree32::MakeData("no.such.Type")).Check(Double(1)); }),
+  EXPECT_EQ(InvalidArgumentOf([&] { Required(unknown).Check(Double(1)); }),
             "The object 'ryx.object.Double' did not match the required type '[not-registered]'");
-  EXPECT_EQ(InvalidArgumentOf([&] { Required(Int32Id, {Required(Int32Id)}).Check(Int32(1)); }),
+  EXPECT_EQ(InvalidArgumentOf([&] {
+              Required(Int32Id, {Required(Int32Id), Required(unknown)}).Check(Int32(1));
+            }),
             "The object 'ryx.object.Int32' specifies a required of: {\"types\":[], \"type:\"0} "
             "which does not match the parents required: {\"types\":[{\"types\":[], "
-            "\"type:\"ryx.object.Int32}], \"type:\"0}");
+            "\"type:\"ryx.object.Int32},{\"types\":[], \"type:\"" +
+                std::to_string(unknown.GetValue()) + "}], \"type:\"0}");
 }
 
 TEST(Required, AnElementSchemaAppliesToEveryElementOrMapValueAndAPerPositionOneToEachInTurn) {
@@ -94,24 +99,6 @@ TEST(Required, AnElementSchemaAppliesToEveryElementOrMapValueAndAPerPositionOneT
   map.emplace("b", std::make_shared<String>("s"));
   EXPECT_THROW(int32.Check(map), std::invalid_argument);
   EXPECT_EQ(InvalidArgumentOf([&] { Required{Required(Int32Id)}.Check(map); }), SizeMismatch);
-}
-
-TEST(Required, MakesAValueOfARegisteredTypeOnly) {
-  auto const made = Required(DoubleId).Make();
-  EXPECT_TRUE(made && made->Is<Double>());
-  EXPECT_EQ(Required(MurmurThree32::MakeData("no.such.Type")).Make(), nullptr);
-  EXPECT_EQ((Required{Required(Int32Id)}).Make(), nullptr);
-  EXPECT_EQ(Required().Make(), nullptr);
-}
-
-TEST(Required, PrintsNamesOrIdsAndItsChildren) {
-  EXPECT_EQ(::testing::PrintToString(Required()), "{\"types\":[], \"type:\"0}");
-  EXPECT_EQ(::testing::PrintToString(Required(StringId, {Required(Int32Id), Required(DoubleId)})),
-            "{\"types\":[{\"types\":[], \"type:\"ryx.object.Int32},{\"types\":[], "
-            "\"type:\"ryx.object.Double}], \"type:\"ryx.object.String}");
-  MurmurThree32 const unknown = MurmurThree32::MakeData("no.such.Type");
-  EXPECT_EQ(::testing::PrintToString(Required(unknown)),
-            "{\"types\":[], \"type:\"" + std::to_string(unknown.GetValue()) + "}");
 }
 
 }  // namespace
