@@ -19,6 +19,11 @@ std::string const NullObject = "Must provide a non-null object pointer";
 std::string const SizeMismatch =
     "Array size must be the same as Required size for Required with null type.";
 
+template <class Call>
+std::string InvalidArgumentOf(Call call) {
+  return MessageOf<std::invalid_argument>(call);
+}
+
 // What loading a null record leaves behind: an empty slot, which copies and
 // compares like any other element, and equals only an empty slot.
 TEST(Containers, CopyAndCompareANullElementLeftByLoading) {
@@ -99,31 +104,25 @@ TEST(Containers, AFailedCopyNamesTheCauseAndLeavesTheTargetAsItWas) {
   // source is refused once the entries went, and the target is left empty.
   Dictionary<Object> const perPosition(DictionaryId(), Required{Int32Schema},
                                        Properties{{"a", MakeInt(1)}});
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { dictionary.Set(perPosition); }), SizeMismatch);
+  EXPECT_EQ(InvalidArgumentOf([&] { dictionary.Set(perPosition); }), SizeMismatch);
   EXPECT_TRUE(dictionary.Empty());
   EXPECT_EQ(dictionary.GetRequired(), Required());
 }
 
 // Construction, Set, Append, Prepend and Insert each check what they add.
 TEST(Array, EveryPathRefusesANullOrMismatchedElementAndKeepsTheArray) {
-  EXPECT_EQ(MessageOf<std::invalid_argument>([] {
-              Array<Object>(Objects{MakeInt(1), nullptr});
-            }),
-            NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([] {
+  EXPECT_EQ(InvalidArgumentOf([] { Array<Object>(Objects{MakeInt(1), nullptr}); }), NullObject);
+  EXPECT_EQ(InvalidArgumentOf([] {
               Array<Object>(Int32Schema, {MakeInt(1), MakeBool(true)});
             }),
             "The object 'ryx.object.Bool' did not match the required type 'ryx.object.Int32'");
   Array<Object> array(Int32Schema, {MakeInt(1), MakeInt(2)});
   Snapshot const before = Snapshot::Of(array);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Set(0, nullptr); }),
+  EXPECT_EQ(InvalidArgumentOf([&] { array.Set(0, nullptr); }),
             "Cannot set null object pointers in an array");
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Append(nullptr); }), NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Prepend(nullptr); }), NullObject);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] {
-              array.Insert(0, {MakeInt(1), nullptr});
-            }),
-            NullObject);
+  EXPECT_EQ(InvalidArgumentOf([&] { array.Append(nullptr); }), NullObject);
+  EXPECT_EQ(InvalidArgumentOf([&] { array.Prepend(nullptr); }), NullObject);
+  EXPECT_EQ(InvalidArgumentOf([&] { array.Insert(0, {MakeInt(1), nullptr}); }), NullObject);
   EXPECT_THROW(array.Append(MakeBool(true)), std::invalid_argument);
   EXPECT_THROW(array.Prepend(MakeBool(true)), std::invalid_argument);
   EXPECT_THROW(array.Insert(1, {MakeInt(3), MakeBool(true)}), std::invalid_argument);
@@ -134,8 +133,7 @@ TEST(Array, EveryPathRefusesANullOrMismatchedElementAndKeepsTheArray) {
 
 TEST(Array, APerPositionSchemaChecksTheWholeListAgainstItsChildren) {
   Required const pair{Int32Schema, StringSchema};
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { Array<Object>(pair, {MakeInt(1)}); }),
-            SizeMismatch);
+  EXPECT_EQ(InvalidArgumentOf([&] { Array<Object>(pair, {MakeInt(1)}); }), SizeMismatch);
   // SetRequired checks the elements held before it replaces the schema.
   Array<Object> array(Objects{MakeInt(1), MakeString("a")});
   EXPECT_THROW(array.SetRequired(Int32Schema), std::invalid_argument);
@@ -143,9 +141,9 @@ TEST(Array, APerPositionSchemaChecksTheWholeListAgainstItsChildren) {
   array.Set(1, MakeString("b"));
   Snapshot const before = Snapshot::Of(array);
   // The schema test comes before the range test.
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Set(2, MakeInt(3)); }),
+  EXPECT_EQ(InvalidArgumentOf([&] { array.Set(2, MakeInt(3)); }),
             "Required with null type can only be as large as the number of Required children");
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { array.Append(MakeInt(3)); }), SizeMismatch);
+  EXPECT_EQ(InvalidArgumentOf([&] { array.Append(MakeInt(3)); }), SizeMismatch);
   EXPECT_THROW(array.Insert(0, {MakeString("x"), MakeInt(2)}), std::invalid_argument);
   EXPECT_EQ(Snapshot::Of(array), before);
   array.Insert(0, {MakeInt(0), MakeString("z")});
@@ -193,7 +191,7 @@ TEST(Containers, RequiredMakesAnEmptyValueCarryingASingleChildAsItsSchema) {
 // Construction refuses null values but does not check the schema; Insert
 // checks the value, a per-position schema as a whole, then the key.
 TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
-  EXPECT_EQ(MessageOf<std::invalid_argument>([] {
+  EXPECT_EQ(InvalidArgumentOf([] {
               Dictionary<Object>(Properties{{"a", nullptr}});
             }),
             "Must provide valid object pointers when creating a dictionary");
@@ -201,7 +199,7 @@ TEST(Dictionary, InsertChecksTheValueThenTheKeyAndKeepsTheFirstValue) {
   Dictionary<Object> dictionary(DictionaryId(), Int32Schema, Properties{{"a", first}});
   Snapshot const before = Snapshot::Of(dictionary);
   EXPECT_THROW(dictionary.Insert("a", MakeBool(true)), std::invalid_argument);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { dictionary.Insert("b", nullptr); }), NullObject);
+  EXPECT_EQ(InvalidArgumentOf([&] { dictionary.Insert("b", nullptr); }), NullObject);
   EXPECT_THROW(dictionary.Insert("a", MakeInt(2)), std::logic_error);
   EXPECT_EQ(Snapshot::Of(dictionary), before);
   Dictionary<Object> perPosition(DictionaryId(), Required{Int32Schema, StringSchema}, Properties{});
@@ -215,7 +213,7 @@ TEST(Property, HoldsAKeyAndANonNullObject) {
   EXPECT_EQ(property.GetKey(), "k");
   EXPECT_EQ(property.GetObject(), value);  // a copy: the property keeps its own
   EXPECT_EQ(std::move(property).GetObject(), value);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([] { dictionary::Property("k", nullptr); }),
+  EXPECT_EQ(InvalidArgumentOf([] { dictionary::Property("k", nullptr); }),
             "Cannot create a property with a null object pointer");
 }
 
