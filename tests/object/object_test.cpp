@@ -11,6 +11,7 @@ namespace {
 
 using namespace ryx::object;
 using namespace ryx::object::testing;
+using ::testing::PrintToString;
 
 TEST(Object, IsAndAsMatchTheExactTypeOnly) {
   std::shared_ptr<Object> const value = std::make_shared<Int64>(8);
@@ -24,13 +25,12 @@ TEST(Object, IsAndAsMatchTheExactTypeOnly) {
 }
 
 TEST(Object, PrintsItsTypeNameOrNotRegisteredAndItsId) {
-  EXPECT_EQ(::testing::PrintToString(Int32(3)),
-            "{\"type\":\"ryx.object.Int32\",\"id\":" +
-                std::to_string(Object::TypeIdOf<Int32>().GetValue()) + "}");
+  EXPECT_EQ(PrintToString(Int32(3)), "{\"type\":\"ryx.object.Int32\",\"id\":" +
+                                         std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
+                                         "}");
   Unregistered const foreign;
-  EXPECT_EQ(::testing::PrintToString(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
-                                                   std::to_string(foreign.GetType().GetValue()) +
-                                                   "}");
+  EXPECT_EQ(PrintToString(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
+                                        std::to_string(foreign.GetType().GetValue()) + "}");
   EXPECT_EQ(MessageOf<BadCast>([&] { foreign.As<Int32>(); }),
             "Failed to cast the runtime object from '[not-registered]' to a 'ryx.object.Int32'");
 }
@@ -50,8 +50,7 @@ TEST(Options, StartClearAndTravelWithAMovedValue) {
   Int32 value;
   EXPECT_TRUE(value.GetOptions().None());
   value.GetOptions().Set(Option::deserializing);
-  Int32 const moved(std::move(value));
-  EXPECT_TRUE(moved.GetOptions().GetBits().test(0));
+  EXPECT_TRUE(Int32(std::move(value)).GetOptions().GetBits().test(0));
   EXPECT_EQ(ryx::type::Strings<Option>::GetMap().at(0), "deserializing");
 }
 
