@@ -96,8 +96,7 @@ void Count(char const*, int, char const*, void* context) {
 }
 
 TEST(LoggingSink, CanBeReplacedWhileOtherThreadsLogWithoutLosingOrMisdirectingAMessage) {
-  Counting first;
-  Counting second;
+  Counting first, second;
   RyxLoggingSetSink(Count, &first);
   std::vector<std::thread> threads;
   for (int t = 0; t < 4; ++t) {
