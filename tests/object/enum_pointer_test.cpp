@@ -32,28 +32,14 @@ using Dummy = enumeration::Dummy;
 using MutablePointer = Pointer<Object, void>;
 using ConstPointer = Pointer<Object, void const>;
 
-TEST(Enum, ADefaultEnumeratorHasNoEnumerationAndFailsTypedAccess) {
-  auto const made = Object::Make(Object::TypeIdOf<Enum<Object>>());
-  ASSERT_TRUE(made);
-  auto const& enumerator = made->As<Enum<Object>>();
-  EXPECT_EQ(enumerator.GetEnumType(), MurmurThree32());
-  EXPECT_EQ(enumerator.GetRawValue(), 0u);
-  EXPECT_TRUE(enumerator.EqualTo(Enum<Object>()));
-  EXPECT_EQ(MessageOf<ryx::type::BadCast>([&] { enumerator.GetValue<Dummy>(); }),
-            "Instance of ryx.object.enum.Dummy is not the same as the enum stored in this class");
-}
-
 // Typed access keeps to the enumerator's own enumeration; Set takes another
 // enumeration and its value, but no other kind.
 TEST(Enum, TypedAccessKeepsToItsOwnEnumerationWhichSetMayChange) {
   Enum<Object> enumerator(Dummy{65535});
-  EXPECT_EQ(enumerator.GetEnumType(), MurmurThree32::MakeData("ryx.object.enum.Dummy"));
-  EXPECT_EQ(static_cast<std::uint16_t>(enumerator.GetValue<Dummy>()), 65535);
   enumerator.SetValue(Dummy{7});
   EXPECT_THROW(enumerator.SetValue(Colour::Red), ryx::type::BadCast);
   EXPECT_EQ(enumerator.GetRawValue(), 7u);
   enumerator.Set(Enum<Object>(Colour::Blue));
-  EXPECT_EQ(enumerator.GetValue<Colour>(), Colour::Blue);
   EXPECT_THROW(enumerator.GetValue<Dummy>(), ryx::type::BadCast);
   EXPECT_THROW(enumerator.Set(Int32(1)), BadCast);
   EXPECT_EQ(enumerator.GetValue<Colour>(), Colour::Blue);
@@ -70,56 +56,44 @@ TEST(Enum, EqualsOnlyAnEnumeratorOfTheSameEnumerationAndValue) {
   EXPECT_FALSE(one.EqualTo(Enum<Object>(Dummy{2})));
   EXPECT_FALSE(one.EqualTo(Enum<Object>(Colour::Red)));  // same value 1
   EXPECT_FALSE(one.EqualTo(Int32(1)));
+  // A default enumerator has no enumeration and the value 0; its typed access
+  // fails as the C functions show.
+  Enum<Object> const none;
+  EXPECT_EQ(none.GetEnumType(), MurmurThree32());
+  EXPECT_EQ(none.GetRawValue(), 0u);
 }
 
-TEST(Pointer, TheFirstNonNullPointeeTypeIsFixed) {
+// The first non-null pointee type is fixed. Equal means the same address,
+// whatever the pointee types, in values of one kind; a value set from another
+// shares its pointee.
+TEST(Pointer, FixesTheFirstPointeeTypeAndComparesAddressesOfTheSameKindOnly) {
   MurmurThree32 const a = MurmurThree32::MakeData("test.A");
   MurmurThree32 const b = MurmurThree32::MakeData("test.B");
   auto const p = std::make_shared<int>(1);
   auto const q = std::make_shared<int>(2);
-  MutablePointer value;
-  value.Set(p, a);
-  value.Set(q, a);
-  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { value.Set(p, b); }),
+  MutablePointer typed;
+  typed.Set(p, a);
+  typed.Set(q, a);
+  EXPECT_EQ(MessageOf<std::invalid_argument>([&] { typed.Set(p, b); }),
             "Cannot set value from pointer of different type");
-  EXPECT_EQ(value.GetPointer(), q);
-  EXPECT_EQ(value.GetPointeeType(), a);
+  EXPECT_EQ(typed.GetPointer(), q);
+  EXPECT_EQ(typed.GetPointeeType(), a);
   MutablePointer untyped;
   untyped.Set(p, MurmurThree32());
   untyped.Set(q, b);
   EXPECT_EQ(untyped.GetPointeeType(), b);
-  // The const kind is a kind of its own, made empty by the registry.
-  auto const made = Object::Make(MurmurThree32::MakeData("ryx.object.ConstPointer"));
-  ASSERT_TRUE(made && made->Is<ConstPointer>() && !made->Is<MutablePointer>());
-  EXPECT_EQ(made->As<ConstPointer>().GetPointer(), nullptr);
-  EXPECT_EQ(made->As<ConstPointer>().GetPointeeType(), MurmurThree32());
-}
-
-// Equal means the same address, whatever the pointee types, in values of one
-// kind; a value set from another shares its pointee.
-TEST(Pointer, ComparesAddressesOfTheSameKindOnlyAndSharesThePointeeOfAnother) {
-  auto const shared = std::make_shared<int>(1);
-  MutablePointer typed;
-  typed.Set(shared, MurmurThree32::MakeData("test.A"));
-  MutablePointer untyped;
-  untyped.Set(shared, MurmurThree32());
   EXPECT_TRUE(typed.EqualTo(untyped));
-  MutablePointer other;
-  other.Set(std::make_shared<int>(1), MurmurThree32::MakeData("test.A"));
-  EXPECT_FALSE(typed.EqualTo(other));
+  untyped.Set(p, b);
+  EXPECT_FALSE(typed.EqualTo(untyped));
   ConstPointer constant;
-  constant.Set(shared, MurmurThree32());
+  constant.Set(q, MurmurThree32());
   EXPECT_FALSE(typed.EqualTo(constant));
   EXPECT_FALSE(constant.EqualTo(typed));
-  {
-    MutablePointer target;
-    target.Set(typed);
-    EXPECT_EQ(shared.use_count(), 5);
-    EXPECT_EQ(target.GetPointeeType(), typed.GetPointeeType());
-    EXPECT_THROW(target.Set(Int32(1)), BadCast);
-    EXPECT_THROW(target.Set(ConstPointer()), BadCast);
-  }
-  EXPECT_EQ(shared.use_count(), 4);
+  MutablePointer target;
+  target.Set(typed);
+  EXPECT_EQ(target.GetPointer(), q);
+  EXPECT_EQ(target.GetPointeeType(), a);
+  EXPECT_THROW(target.Set(ConstPointer()), BadCast);
 }
 
 }  // namespace

@@ -1,21 +1,27 @@
-#include <ryx/object.hpp>
+// Deeply nested values: releasing them never recurses, copies and comparisons
+// stop at the nesting limit, and on threads with small stacks every recursive
+// operation finishes or throws NestingLimitError, never overflows the stack.
+#include "support.hpp"
 
-#include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
-#include <stdexcept>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using namespace ryx::object;
+using ryx::object::testing::MessageOf;
 
 enum class Shape { Arrays, Dictionaries, Mixed };
 
 // A chain of `depth` containers, each holding the next, the innermost an Int32.
-std::shared_ptr<Object> Nest(std::size_t depth, Shape shape) {
+std::shared_ptr<Object> Nest(std::size_t depth, Shape shape = Shape::Mixed) {
   std::shared_ptr<Object> inner = std::make_shared<Int32>(1);
   for (std::size_t level = 0; level < depth; ++level) {
     bool const array = shape == Shape::Arrays || (shape == Shape::Mixed && level % 2 == 0);
@@ -29,67 +35,123 @@ std::shared_ptr<Object> Nest(std::size_t depth, Shape shape) {
   return inner;
 }
 
-// Deep enough that releasing it recursively overflows an 8 MiB stack even
-// with the small frames of an optimised build (that happens from about 40,000
-// levels on).
-constexpr std::size_t Deep = 100000;
-
-TEST(Nesting, ReleasingDeepChainsDoesNotOverflowTheStack) {
-  for (Shape shape : {Shape::Arrays, Shape::Dictionaries, Shape::Mixed}) {
-    std::shared_ptr<Object> deep = Nest(Deep, shape);
-    deep.reset();
-  }
+// An empty array whose schema nests `depth` levels.
+std::shared_ptr<Object> NestSchema(std::size_t depth) {
   Required schema(Object::TypeIdOf<Int32>());
-  for (int level = 0; level < 1000000; ++level) {
+  for (std::size_t level = 1; level < depth; ++level) {
     std::vector<Required> children;
     children.push_back(std::move(schema));
     schema = Required(Object::TypeIdOf<Array<Object>>(), std::move(children));
   }
+  return std::make_shared<Array<Object>>(std::move(schema), Array<Object>::Objects{});
 }
 
-TEST(Nesting, ClearingAndPoppingReleaseDeepChildrenIteratively) {
-  Array<Object> array(Array<Object>::Objects{Nest(Deep, Shape::Mixed)});
-  array.Clear();
-  Dictionary<Object> dictionary(Dictionary<Object>::Properties{{"deep", Nest(Deep, Shape::Mixed)}});
-  dictionary.Clear();
-  EXPECT_TRUE(array.Empty() && dictionary.Empty());
+// What `call` ended with on a thread of `stackSize` bytes: "finished",
+// "refused" for NestingLimitError, or the text of another exception. An
+// overflow kills the test program.
+std::string RunOnStack(std::size_t stackSize, std::function<void()> const& call) {
+  struct Run {
+    std::function<void()> const& call;
+    std::string outcome;
+  } run{call, "finished"};
+  auto const body = [](void* argument) -> void* {
+    Run& run = *static_cast<Run*>(argument);
+    try {
+      run.call();
+    } catch (NestingLimitError const&) {
+      run.outcome = "refused";
+    } catch (std::exception const& e) {
+      run.outcome = e.what();
+    }
+    return nullptr;
+  };
+  pthread_attr_t attributes;
+  pthread_attr_init(&attributes);
+  pthread_attr_setstacksize(&attributes, stackSize);
+  pthread_t thread;
+  EXPECT_EQ(pthread_create(&thread, &attributes, body, &run), 0);
+  pthread_attr_destroy(&attributes);
+  pthread_join(thread, nullptr);
+  return run.outcome;
 }
 
-TEST(Nesting, ASharedChildSurvivesTheReleaseOfItsParentIntact) {
-  std::shared_ptr<Object> shared = Nest(3, Shape::Mixed);
-  {
-    auto parent = std::make_shared<Array<Object>>(Array<Object>::Objects{shared, Nest(2, Shape::Arrays)});
+// A release that recursed once per level would overflow 64 KiB within 5,000
+// levels even with the small frames of an optimised build (a schema's are the
+// smallest). Each kind of chain is needed: a container released in place
+// hands its children to their own destructors, iterative for the other kind.
+TEST(Nesting, ReleasingADeepChainOrSchemaNeverRecursesAndSparesASharedChild) {
+  std::shared_ptr<Object> const shared = Nest(2);
+  std::shared_ptr<Object> values[] = {
+      Nest(20000, Shape::Arrays), Nest(20000, Shape::Dictionaries), NestSchema(20000),
+      std::make_shared<Array<Object>>(Array<Object>::Objects{shared})};
+  for (std::shared_ptr<Object>& value : values) {
+    EXPECT_EQ(RunOnStack(64 << 10, [&] { value.reset(); }), "finished");
   }
-  EXPECT_TRUE(shared->EqualTo(*Nest(3, Shape::Mixed)));
+  EXPECT_TRUE(shared->EqualTo(*Nest(2)));
 }
 
-TEST(Nesting, CopyAndCompareWorkUpToTheLimit) {
-  std::shared_ptr<Object> const deep = Nest(GetNestingLimit(), Shape::Mixed);
-  std::shared_ptr<Object> const copy = Object::Copy(*deep);
+TEST(Nesting, CopyAndCompareWorkUpToTheLimitAndRefuseToGoDeeper) {
+  std::shared_ptr<Object> const atLimit = Nest(GetNestingLimit());
+  std::shared_ptr<Object> const copy = Object::Copy(*atLimit);
   ASSERT_TRUE(copy);
-  EXPECT_NE(copy, deep);
-  EXPECT_TRUE(copy->EqualTo(*deep));
-}
-
-TEST(Nesting, CopyAndCompareRefuseToGoDeeperThanTheLimit) {
+  EXPECT_TRUE(copy->EqualTo(*atLimit));
+  std::string const limit = std::to_string(GetNestingLimit()) + " levels";
   for (Shape shape : {Shape::Arrays, Shape::Dictionaries}) {
     std::shared_ptr<Object> const deep = Nest(GetNestingLimit() + 1, shape);
-    std::string const limit = std::to_string(GetNestingLimit());
-    try {
-      Object::Copy(*deep);
-      FAIL() << "no exception";
-    } catch (NestingLimitError const& e) {
-      EXPECT_EQ(e.what(), "Values to copy are nested deeper than the nesting limit of " + limit + " levels");
-    }
-    try {
-      static_cast<void>(deep->EqualTo(*deep));
-      FAIL() << "no exception";
-    } catch (NestingLimitError const& e) {
-      EXPECT_EQ(e.what(), "Values to compare are nested deeper than the nesting limit of " + limit + " levels");
-    }
+    EXPECT_EQ(MessageOf<NestingLimitError>([&] { Object::Copy(*deep); }),
+              "Values to copy are nested deeper than the nesting limit of " + limit);
+    EXPECT_EQ(MessageOf<NestingLimitError>([&] { static_cast<void>(deep->EqualTo(*deep)); }),
+              "Values to compare are nested deeper than the nesting limit of " + limit);
     // The failures unwound their counters: a shallow copy still works.
     EXPECT_TRUE(Object::Copy(*Nest(2, shape)));
   }
+}
+
+TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
+  // Only the stack stops these depths.
+  SetNestingLimit(1000000);
+  for (std::size_t depth : {500, 999, 5000}) {
+    for (std::shared_ptr<Object> const& value : {Nest(depth), NestSchema(depth)}) {
+      // Written on a thread with room for any of the depths, without
+      // indentation, which would grow with the square of the depth.
+      std::ostringstream json;
+      std::ostringstream xml;
+      std::string binary;
+      EXPECT_EQ(RunOnStack(64 << 20,
+                           [&] {
+                             cereal::JSONOutputArchive jsonArchive(
+                                 json, cereal::JSONOutputArchive::Options::NoIndent());
+                             Save(jsonArchive, value);
+                             cereal::XMLOutputArchive xmlArchive(
+                                 xml, cereal::XMLOutputArchive::Options().indent(false));
+                             Save(xmlArchive, value);
+                             binary = ToBinary(value);
+                           }),
+                "finished");
+      std::pair<char const*, std::function<void()>> const operations[] = {
+          {"ToJson", [&] { ToJson(value); }},
+          {"FromJson", [&] { FromJson(json.str()); }},
+          {"ToXml", [&] { ToXml(value); }},
+          {"FromXml", [&] { FromXml(xml.str()); }},
+          {"ToBinary", [&] { ToBinary(value); }},
+          {"FromBinary", [&] { FromBinary(binary); }},
+          {"Copy", [&] { Object::Copy(*value); }},
+          {"EqualTo", [&] { static_cast<void>(value->EqualTo(*value)); }},
+          {"ToTemplateData", [&] { ToTemplateData(value); }},
+          // The renderer copies the tree again for each section it enters.
+          {"Render", [&] { Render("{{#objects}}.{{/objects}}", value); }},
+      };
+      for (std::size_t stackSize : {128 << 10, 256 << 10}) {
+        for (auto const& [name, operation] : operations) {
+          std::string const outcome = RunOnStack(stackSize, operation);
+          EXPECT_TRUE(outcome == "finished" || outcome == "refused")
+              << name << " at depth " << depth << " on " << (stackSize >> 10)
+              << " KiB: " << outcome;
+        }
+      }
+    }
+  }
+  SetNestingLimit(DefaultNestingLimit);
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <limits>
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -12,19 +11,12 @@ namespace {
 
 using namespace ryx::object;
 using namespace ryx::object::testing;
-
-std::string Printed(Object const& value) {
-  std::ostringstream os;
-  os << value;
-  return os.str();
-}
+using ::testing::PrintToString;
 
 TEST(Object, IsAndAsMatchTheExactTypeOnly) {
   std::shared_ptr<Object> const value = std::make_shared<Int64>(8);
   EXPECT_TRUE(value->Is<Int64>());
   EXPECT_FALSE(value->Is<Int32>());
-  EXPECT_FALSE(UInt64(1u).Is<Int64>());
-  EXPECT_EQ(&value->As<Int64>(), value.get());
   EXPECT_EQ(MessageOf<std::bad_cast>([&] { value->As<Bool>(); }),
             "Failed to cast the runtime object from 'ryx.object.Int64' to a 'ryx.object.Bool'");
   std::shared_ptr<Object const> const constant = value;
@@ -32,11 +24,12 @@ TEST(Object, IsAndAsMatchTheExactTypeOnly) {
 }
 
 TEST(Object, PrintsItsTypeNameOrNotRegisteredAndItsId) {
-  EXPECT_EQ(Printed(Int32(3)), "{\"type\":\"ryx.object.Int32\",\"id\":" +
-                                   std::to_string(Object::TypeIdOf<Int32>().GetValue()) + "}");
+  EXPECT_EQ(PrintToString(Int32(3)), "{\"type\":\"ryx.object.Int32\",\"id\":" +
+                                         std::to_string(Object::TypeIdOf<Int32>().GetValue()) +
+                                         "}");
   Unregistered const foreign;
-  EXPECT_EQ(Printed(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
-                                  std::to_string(foreign.GetType().GetValue()) + "}");
+  EXPECT_EQ(PrintToString(foreign), "{\"type\":\"[not-registered]\",\"id\":" +
+                                        std::to_string(foreign.GetType().GetValue()) + "}");
   EXPECT_EQ(MessageOf<BadCast>([&] { foreign.As<Int32>(); }),
             "Failed to cast the runtime object from '[not-registered]' to a 'ryx.object.Int32'");
 }
@@ -45,21 +38,18 @@ TEST(Object, CopiesIntoANewValueOrNothingForAnUnregisteredTypeOrNull) {
   UInt64 const source(std::numeric_limits<unsigned long>::max());
   auto const copy = Object::Copy(source);
   ASSERT_TRUE(copy && copy->Is<UInt64>());
-  EXPECT_NE(copy.get(), static_cast<Object const*>(&source));
   EXPECT_TRUE(copy->EqualTo(source));
   EXPECT_EQ(Object::Copy(Unregistered()), nullptr);
   EXPECT_EQ(Object::Copy(std::shared_ptr<Object const>()), nullptr);
   auto const shared = Object::Copy(std::shared_ptr<Object const>(std::make_shared<String>("s")));
-  ASSERT_TRUE(shared);
-  EXPECT_EQ(shared->As<String>().Get(), "s");
+  EXPECT_TRUE(shared && shared->EqualTo(String("s")));
 }
 
 TEST(Options, StartClearAndTravelWithAMovedValue) {
   Int32 value;
   EXPECT_TRUE(value.GetOptions().None());
   value.GetOptions().Set(Option::deserializing);
-  Int32 const moved(std::move(value));
-  EXPECT_TRUE(moved.GetOptions().GetBits().test(0));
+  EXPECT_TRUE(Int32(std::move(value)).GetOptions().GetBits().test(0));
   EXPECT_EQ(ryx::type::Strings<Option>::GetMap().at(0), "deserializing");
 }
 
@@ -85,12 +75,6 @@ TEST(Primitive, SetTakesItsOwnKindOrParsesAStringThroughTheVirtualSetter) {
   EXPECT_THROW(target.Set(String("x5")), std::invalid_argument);
   EXPECT_EQ(target.Get(), 5);
   EXPECT_EQ(target.sets, 2);
-  UInt8 small(7);
-  EXPECT_THROW(small.Set(String("256")), std::out_of_range);
-  EXPECT_EQ(small.Get(), 7);
-  Double number;
-  number.Set(String("2.5"));
-  EXPECT_EQ(number.Get(), 2.5);
   String text("old");
   text.Set(String("keep"));
   EXPECT_THROW(text.Set(Int32(5)), BadCast);
@@ -101,14 +85,11 @@ TEST(Primitive, EqualsOnlyTheSameKindWithExactlyTheSameValue) {
   EXPECT_TRUE(Int32(4).EqualTo(Int32(4)));
   EXPECT_FALSE(Int32(4).EqualTo(Int32(5)));
   EXPECT_FALSE(Int32(4).EqualTo(Int64(4)));
-  EXPECT_FALSE(Int32(4).EqualTo(String("4")));
-  EXPECT_FALSE(Float(1.0f).EqualTo(Double(1.0)));
-  EXPECT_FALSE(String("abc").EqualTo(String("ABC")));
-  EXPECT_TRUE(String(std::string("a\0b", 3)).EqualTo(String(std::string("a\0b", 3))));
+  // Exactly: strings byte for byte, numbers with no tolerance, NaN equals
+  // nothing.
   EXPECT_FALSE(String(std::string("a\0b", 3)).EqualTo(String("a")));
   Double const nan(std::numeric_limits<double>::quiet_NaN());
   EXPECT_FALSE(nan.EqualTo(nan));
-  EXPECT_TRUE(Double(0.0).EqualTo(Double(-0.0)));
   EXPECT_FALSE(Double(0.1 + 0.2).EqualTo(Double(0.3)));
 }
 
