@@ -68,7 +68,7 @@ TEST(JsonForm, RefusesNumbersThatTheNumberParserWouldMisread) {
     EXPECT_THROW(FromJson(Valued("ryx.object.Double", misread)), cereal::archive::JsonParseError)
         << misread;
   }
-  for (char const* read : {"0.0", "-0.0", "0e22", "0.0000000000000000000000", "1e-300", "1e-330",
+  for (char const* read : {"0.0", "-0.0", "0e22", "0.0000000000000000000000", "1e-300", "1e-330", "100e-330",
                            "4.9406564584124654e-324", "1.7976931348623157e308"}) {
     EXPECT_NO_THROW(FromJson(Valued("ryx.object.Double", read))) << read;
   }
