@@ -36,27 +36,23 @@ inline constexpr std::size_t XmlPrintStackPerElement = 1152;
 inline constexpr std::size_t TreeStackPerNode = 768;
 #endif
 
-// The stack the pass after a save into Archive takes per level of values and
-// of schemas: a dictionary's value lies three elements or nodes below the
-// dictionary's own ("properties", the item, "value"), an array's element two,
-// a schema's child two ("child_types", the item). The portable binary and
-// JSON archives have no such pass.
+// The stack the pass after a save into Archive takes per element or node it
+// printed or built. The portable binary and JSON archives have no such pass.
 template <class Archive>
-inline constexpr std::size_t LaterStackPerValue = 0;
+inline constexpr std::size_t LaterStackPerNode = 0;
 template <>
-inline constexpr std::size_t LaterStackPerValue<cereal::XMLOutputArchive> =
-    3 * XmlPrintStackPerElement;
+inline constexpr std::size_t LaterStackPerNode<cereal::XMLOutputArchive> = XmlPrintStackPerElement;
 template <>
-inline constexpr std::size_t LaterStackPerValue<templating::serialize::archive::output::Data> =
-    3 * TreeStackPerNode;
+inline constexpr std::size_t LaterStackPerNode<templating::serialize::archive::output::Data> =
+    TreeStackPerNode;
 
+// Per level of values and of schemas: a dictionary's value lies three
+// elements or nodes below the dictionary's own ("properties", the item,
+// "value"), an array's element two, a schema's child two ("child_types", the
+// item).
 template <class Archive>
-inline constexpr std::size_t LaterStackPerSchema = 0;
-template <>
-inline constexpr std::size_t LaterStackPerSchema<cereal::XMLOutputArchive> =
-    2 * XmlPrintStackPerElement;
-template <>
-inline constexpr std::size_t LaterStackPerSchema<templating::serialize::archive::output::Data> =
-    2 * TreeStackPerNode;
+inline constexpr std::size_t LaterStackPerValue = 3 * LaterStackPerNode<Archive>;
+template <class Archive>
+inline constexpr std::size_t LaterStackPerSchema = 2 * LaterStackPerNode<Archive>;
 
 }  // namespace ryx::object::detail
