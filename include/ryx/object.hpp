@@ -41,6 +41,7 @@
 #include <ryx/object/serialize/json.hpp>
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/load_functions.hpp>
+#include <ryx/object/serialize/plain_functions.hpp>
 #include <ryx/object/nesting_limit.hpp>
 #include <ryx/object/serialize/required.hpp>
 #include <ryx/object/serialize/save.hpp>
