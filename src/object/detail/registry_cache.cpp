@@ -69,6 +69,11 @@ Cache& ThreadCache() {
 
 }  // namespace
 
+std::uint64_t ThreadCacheGeneration() noexcept {
+  return threadCache != nullptr ? threadCache->generation
+                                : std::numeric_limits<std::uint64_t>::max();
+}
+
 CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id) {
   registry::Registry& registry = registry::Get();
   // Read before any lookup: an entry filled later may be newer than this

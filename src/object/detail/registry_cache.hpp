@@ -13,6 +13,7 @@
 #include <ryx/hash/murmur_three32.hpp>
 #include <ryx/object/registry/info.hpp>
 
+#include <cstdint>
 #include <string>
 
 #include "object/serialize/detail/direct_record.hpp"
@@ -29,5 +30,9 @@ struct CachedRecord {
 // entry stays valid until the next lookup on this thread, the record it points
 // to (and its functions) until the type is removed.
 CachedRecord const* FindCachedRecord(hash::MurmurThree32 const& id);
+
+// The registry generation the calling thread's entries belong to: entries
+// found before it changed are gone.
+std::uint64_t ThreadCacheGeneration() noexcept;
 
 }  // namespace ryx::object::detail

@@ -3,10 +3,13 @@
 // instead of a lookup in the thread's registry cache (a thread-local access,
 // a generation check and a table probe).
 //
-// It keeps copies: an entry of the registry cache lasts only until the next
-// lookup. Only registered types are kept, so a type registered while the
-// document is read is seen as soon as it is. Records must not be removed
-// meanwhile, as for any save or load (see registry/get.hpp).
+// It keeps the addresses of the thread cache's entries, which stay put until
+// that cache is emptied for a change of the registry; the memo forgets them
+// all as soon as a lookup finds the cache emptied. An entry it hands out is
+// therefore valid until the next lookup through the memo. Only registered
+// types are kept, so a type registered while the document is read is seen as
+// soon as it is. Records must not be removed meanwhile, as for any save or
+// load (see registry/get.hpp).
 #pragma once
 
 #include <ryx/hash/murmur_three32.hpp>
@@ -22,28 +25,24 @@ namespace ryx::object::detail {
 
 class RecordMemo {
  public:
-  struct Entry {
-    std::uint32_t id = 0;
-    registry::Info const* info = nullptr;  // null for a free slot
-    std::string name;
-    DirectRecord direct;
-  };
+  using Entry = CachedRecord;
 
   // The entry of a registered id, or null.
   Entry const* Find(hash::MurmurThree32 const& id) {
-    Entry& slot = slots[id.GetValue() % slots.size()];
-    if (slot.info != nullptr && slot.id == id.GetValue()) {
-      return &slot;
+    Slot& slot = slots[SlotOf(id.GetValue())];
+    if (slot.entry != nullptr && slot.id == id.GetValue()) {
+      return slot.entry;
     }
-    CachedRecord const* const record = FindCachedRecord(id);
-    if (record == nullptr) {
-      return nullptr;
+    CachedRecord const* const entry = FindCachedRecord(id);
+    std::uint64_t const generation = ThreadCacheGeneration();
+    if (generation != cacheGeneration) {
+      slots.fill(Slot());
+      cacheGeneration = generation;
     }
-    slot.id = id.GetValue();
-    slot.info = record->info;
-    slot.name = record->name;
-    slot.direct = record->direct;
-    return &slot;
+    if (entry != nullptr) {
+      slot = Slot{id.GetValue(), entry};
+    }
+    return entry;
   }
 
   // The entry of the type a text form names, or null: the name's hash is
@@ -65,13 +64,26 @@ class RecordMemo {
   }
 
  private:
+  struct Slot {
+    std::uint32_t id = 0;
+    Entry const* entry = nullptr;
+  };
+
   struct Named {
     bool known = false;
     std::string name;
     hash::MurmurThree32 id;
   };
 
-  std::array<Entry, 8> slots;
+  // The top bits of the id times the golden ratio: type ids are hashes
+  // already, but mixing keeps ids that share low bits apart.
+  static std::size_t SlotOf(std::uint32_t id) noexcept {
+    return (id * 0x9E3779B1u) >> (32 - SlotBits);
+  }
+
+  static constexpr unsigned SlotBits = 5;
+  std::array<Slot, std::size_t(1) << SlotBits> slots{};
+  std::uint64_t cacheGeneration = ThreadCacheGeneration();
   std::array<Named, 8> names;
 };
 
