@@ -97,6 +97,31 @@ BENCHMARK_CAPTURE(Saving, Indented, JsonThroughArchive<Indented>)
 BENCHMARK_CAPTURE(Loading, Indented, Json<Indented>, FromJsonThroughArchive)
     ->Name("FromJsonThroughArchive/Indented")
     ->Unit(benchmark::kMillisecond);
+// Plain JSON: written from the records' value; read from nlohmann::json's own
+// text of the same records, without a schema and with theirs.
+std::string PlainCompact(std::shared_ptr<Object const> const& value) {
+  return ToPlainJson(value, JsonLayout::Compact);
+}
+
+void ReadingPlain(benchmark::State& state, char const* schemaText) {
+  std::string const& text = PlainText();
+  Required const schema = ParseRequired(schemaText);
+  benchmark::DoNotOptimize(FromPlainJson(text, schema).get());
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(FromPlainJson(text, schema).get());
+  }
+  Report(state, text.size());
+}
+
+BENCHMARK_CAPTURE(Saving, PlainCompact, PlainCompact)
+    ->Name("ToPlainJson/Compact")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ReadingPlain, Untyped, "any")
+    ->Name("FromPlainJson")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ReadingPlain, Typed, "Array<Dictionary>")
+    ->Name("FromPlainJson/Schema")
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Saving, Binary, ToBinary)->Name("ToBinary")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Loading, Binary, ToBinary, FromBinary)
     ->Name("FromBinary")

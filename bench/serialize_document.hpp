@@ -13,6 +13,7 @@
 #include <cstdint>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace ryx::bench {
@@ -21,6 +22,10 @@ std::shared_ptr<object::Object> Build(std::vector<Record> const& records);
 
 // Built once, on first use.
 std::shared_ptr<object::Object const> const& Document();
+
+// The records as the plain JSON nlohmann::json writes of them (its dump),
+// the very bytes it reads back in its own benchmark; built once.
+std::string const& PlainText();
 
 // Reports each iteration's text (for MB/s) and the time per record.
 inline void Report(benchmark::State& state, std::size_t bytesPerIteration) {

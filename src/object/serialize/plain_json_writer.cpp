@@ -6,8 +6,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -22,8 +22,6 @@ namespace ryx::object::detail {
 
 namespace {
 
-using rapidjson::SizeType;
-
 // What plain JSON cannot hold, on its way up to the root, where it becomes a
 // PlainJsonError. Each level it passes through puts its segment in front of
 // the path.
@@ -31,6 +29,88 @@ struct Refusal {
   std::string reason;
   std::string path;
 };
+
+// Whether any of eight bytes is a control character, a quote, a backslash or
+// the start of a multi-byte sequence (it may also say so of a byte after such
+// a byte): the bytes a string cannot copy as they are.
+bool NeedsCare(std::uint64_t word) noexcept {
+  constexpr std::uint64_t Ones = 0x0101010101010101u;
+  constexpr std::uint64_t High = 0x8080808080808080u;
+  auto const hasZero = [](std::uint64_t x) { return (x - Ones) & ~x & High; };
+  std::uint64_t const control = (word - Ones * 0x20) & ~word & High;
+  return ((control | hasZero(word ^ (Ones * '"')) | hasZero(word ^ (Ones * '\\')) | word) &
+          High) != 0;
+}
+
+// `text` as a JSON string: quote and backslash escaped, control characters
+// as rapidjson's writer escapes them, everything else as it is. Text that is
+// not UTF-8 is refused.
+void WriteString(StringOutput& out, std::string_view text, char const* what) {
+  static char const hex[] = "0123456789ABCDEF";
+  char const* const begin = text.data();
+  char const* const end = begin + text.size();
+  char const* run = begin;  // not yet copied
+  char const* at = begin;
+  out.Put('"');
+  while (at != end) {
+    if (end - at >= 8) {
+      std::uint64_t word;
+      std::memcpy(&word, at, sizeof word);
+      if (!NeedsCare(word)) {
+        at += 8;
+        continue;
+      }
+    }
+    auto const byte = static_cast<unsigned char>(*at);
+    if (byte >= 0x80) {
+      std::size_t const length = Utf8SequenceLength(at, end);
+      if (length == 0) {
+        auto const offset = static_cast<std::size_t>(at - begin);
+        throw Refusal{std::string(what) + " is not valid UTF-8: " + DescribeInvalidUtf8(text, offset),
+                      {}};
+      }
+      at += length;
+      continue;
+    }
+    if (byte >= 0x20 && byte != '"' && byte != '\\') {
+      ++at;
+      continue;
+    }
+    out.Write(run, static_cast<std::size_t>(at - run));
+    char escape[6] = {'\\', 0, '0', '0', 0, 0};
+    std::size_t length = 2;
+    switch (byte) {
+      case '"':
+      case '\\':
+        escape[1] = static_cast<char>(byte);
+        break;
+      case '\b':
+        escape[1] = 'b';
+        break;
+      case '\t':
+        escape[1] = 't';
+        break;
+      case '\n':
+        escape[1] = 'n';
+        break;
+      case '\f':
+        escape[1] = 'f';
+        break;
+      case '\r':
+        escape[1] = 'r';
+        break;
+      default:
+        escape[1] = 'u';
+        escape[4] = hex[byte >> 4];
+        escape[5] = hex[byte & 0xF];
+        length = 6;
+    }
+    out.Write(escape, length);
+    run = ++at;
+  }
+  out.Write(run, static_cast<std::size_t>(end - run));
+  out.Put('"');
+}
 
 template <class Writer>
 class PlainJson {
@@ -74,10 +154,7 @@ class PlainJson {
   void Scalar(unsigned long value) { writer.Uint64(value); }
   void Scalar(float value) { Real(value); }
   void Scalar(double value) { Real(value); }
-  void Scalar(std::string const& value) {
-    Check(value, "the string");
-    writer.String(value.data(), static_cast<SizeType>(value.size()));
-  }
+  void Scalar(std::string const& value) { Text(value, "the string"); }
 
   void OpenArray(ArrayKind const&) { writer.StartArray(); }
   void CloseArray(ArrayKind const&) { writer.EndArray(); }
@@ -97,8 +174,7 @@ class PlainJson {
 
   template <class WriteChild>
   bool Entry(std::string const& key, WriteChild const& writeChild) {
-    Check(key, "the member name");
-    writer.Key(key.data(), static_cast<SizeType>(key.size()));
+    Text(key, "the member name");
     try {
       return writeChild();
     } catch (Refusal& refusal) {
@@ -138,15 +214,9 @@ class PlainJson {
     writer.RawValue(text, static_cast<std::size_t>(end - text), rapidjson::kNumberType);
   }
 
-  static void Check(std::string const& text, char const* what) {
-    if (text.size() > std::numeric_limits<SizeType>::max()) {
-      throw Refusal{std::string(what) + " is too long for plain JSON: 4 GiB or more", {}};
-    }
-    std::size_t const invalid = FindInvalidUtf8(text);
-    if (invalid != std::string_view::npos) {
-      throw Refusal{std::string(what) + " is not valid UTF-8: " + DescribeInvalidUtf8(text, invalid),
-                    {}};
-    }
+  void Text(std::string const& text, char const* what) {
+    writer.Raw(rapidjson::kStringType,
+               [&](StringOutput& out) { WriteString(out, text, what); });
   }
 
   Writer& writer;

@@ -1,22 +1,13 @@
 #include "object/serialize/detail/utf8.hpp"
 
-#include <boost/locale/utf.hpp>
-
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 
 namespace ryx::object::detail {
 
-namespace {
-
-using Utf8 = boost::locale::utf::utf_traits<char>;
-
-constexpr std::uint64_t HighBits = 0x8080808080808080u;
-
-}  // namespace
-
 std::size_t FindInvalidUtf8(std::string_view text) noexcept {
+  constexpr std::uint64_t HighBits = 0x8080808080808080u;
   char const* const begin = text.data();
   char const* const end = begin + text.size();
   char const* at = begin;
@@ -34,18 +25,19 @@ std::size_t FindInvalidUtf8(std::string_view text) noexcept {
       ++at;
       continue;
     }
-    char const* const start = at;
-    boost::locale::utf::code_point const c = Utf8::decode(at, end);
-    if (c == boost::locale::utf::illegal || c == boost::locale::utf::incomplete) {
-      return static_cast<std::size_t>(start - begin);
+    std::size_t const length = Utf8SequenceLength(at, end);
+    if (length == 0) {
+      return static_cast<std::size_t>(at - begin);
     }
+    at += length;
   }
   return std::string_view::npos;
 }
 
 std::string DescribeInvalidUtf8(std::string_view text, std::size_t offset) {
   char byte[8];
-  std::snprintf(byte, sizeof byte, "0x%02X", static_cast<unsigned>(static_cast<unsigned char>(text[offset])));
+  std::snprintf(byte, sizeof byte, "0x%02X",
+                static_cast<unsigned>(static_cast<unsigned char>(text[offset])));
   return std::string("the byte ") + byte + " at offset " + std::to_string(offset) +
          " does not start a valid UTF-8 sequence";
 }

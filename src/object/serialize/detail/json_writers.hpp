@@ -3,9 +3,9 @@
 //
 // Indented is cereal's JSON output archive's layout: a line per member and
 // element, four spaces per level, a blank after each colon. Both writers can
-// also copy text that is JSON already (a quoted member name, a number
-// formatted elsewhere) in one piece, after the same separator and
-// indentation as any other value.
+// also write a value's text themselves (a quoted member name, a number
+// formatted elsewhere, a string escaped elsewhere) after the same separator
+// and indentation as any other value.
 #pragma once
 
 #include <string_view>
@@ -29,13 +29,19 @@ class LiteralWriter : public Base {
   using Base::Base;
 
   void Literal(std::string_view json, rapidjson::Type type) {
+    Raw(type, [json](StringOutput& out) { out.Write(json.data(), json.size()); });
+  }
+
+  // A value of `type` whose text `write` puts into the output itself. The
+  // output needs no flushing afterwards, even for a whole document.
+  template <class Write>
+  void Raw(rapidjson::Type type, Write const& write) {
     if constexpr (Pretty) {
       this->PrettyPrefix(type);
     } else {
       this->Prefix(type);
     }
-    // A literal is never the whole document, so nothing needs flushing.
-    this->os_->Write(json.data(), json.size());
+    write(*this->os_);
   }
 };
 
