@@ -3,7 +3,9 @@
 #include <ryx/object.h>
 #include <ryx/object/serialize.h>
 #include <ryx/object/serialize/binary.hpp>
+#include <ryx/object/required_text.hpp>
 #include <ryx/object/serialize/json.hpp>
+#include <ryx/object/serialize/plain_json.hpp>
 #include <ryx/object/serialize/xml.hpp>
 
 #include "capi/detail/document_call.hpp"
@@ -35,7 +37,7 @@ int FormNumber(RyxObjectForm const& form) noexcept {
 // RyxObjectStatusSuccess for a known one.
 RyxObjectStatus CheckForm(char const* function, RyxObjectForm const& form) noexcept {
   int const number = FormNumber(form);
-  if (number == RyxObjectFormJson || number == RyxObjectFormXml || number == RyxObjectFormBinary) {
+  if (number >= RyxObjectFormJson && number <= RyxObjectFormPlainJsonCompact) {
     return RyxObjectStatusSuccess;
   }
   detail::Report("%0%: the form parameter was not a RYX form: %1%", function, number);
@@ -48,6 +50,10 @@ std::string SaveAs(RyxObjectForm form, std::shared_ptr<Object const> const& valu
       return ryx::object::ToJson(value);
     case RyxObjectFormXml:
       return ryx::object::ToXml(value);
+    case RyxObjectFormPlainJson:
+      return ryx::object::ToPlainJson(value);
+    case RyxObjectFormPlainJsonCompact:
+      return ryx::object::ToPlainJson(value, ryx::object::JsonLayout::Compact);
     case RyxObjectFormBinary:
       break;
   }
@@ -60,6 +66,9 @@ std::shared_ptr<Object> LoadAs(RyxObjectForm form, std::string_view document) {
       return ryx::object::FromJson(document);
     case RyxObjectFormXml:
       return ryx::object::FromXml(document);
+    case RyxObjectFormPlainJson:
+    case RyxObjectFormPlainJsonCompact:
+      return ryx::object::FromPlainJson(document);
     case RyxObjectFormBinary:
       break;
   }
@@ -97,6 +106,30 @@ extern "C" RyxObjectStatus RyxObjectLoad(RyxObjectForm form, char const* data, s
   }
   return detail::CallReporting(__func__, "failed to load the RYX object", [&] {
     auto value = LoadAs(form, std::string_view(data, size));
+    *object = value ? detail::MakeHandle(std::move(value)) : nullptr;
+  });
+}
+
+extern "C" RyxObjectStatus RyxObjectLoadPlainJson(char const* data, size_t size,
+                                                  char const* schema,
+                                                  RyxObject** object) noexcept {
+  if (data == nullptr) {
+    return detail::ReportNullParameter(__func__, "data");
+  }
+  if (object == nullptr) {
+    return detail::ReportNullParameter(__func__, "object");
+  }
+  ryx::object::Required required;
+  if (schema != nullptr) {
+    RyxObjectStatus const status =
+        detail::CallReporting(__func__, "the schema parameter was not a RYX schema",
+                              [&] { required = ryx::object::ParseRequired(schema); });
+    if (status != RyxObjectStatusSuccess) {
+      return status == RyxObjectStatusFailure ? RyxObjectStatusInvalidParameter : status;
+    }
+  }
+  return detail::CallReporting(__func__, "failed to load the RYX object", [&] {
+    auto value = ryx::object::FromPlainJson(std::string_view(data, size), required);
     *object = value ? detail::MakeHandle(std::move(value)) : nullptr;
   });
 }

@@ -42,8 +42,8 @@ static void FailuresAreReportedLeavingTheOutputs(void) {
   RyxObject* loaded = unregistered;
   char* data = unwritten;
   size_t size = 12345;
-  CHECK_FAILS(RyxObjectStatusInvalidParameter, "the form parameter was not a RYX form: 3",
-              RyxObjectSave, unregistered, (RyxObjectForm)3, &data, &size);
+  CHECK_FAILS(RyxObjectStatusInvalidParameter, "the form parameter was not a RYX form: 5",
+              RyxObjectSave, unregistered, (RyxObjectForm)5, &data, &size);
   CHECK_FAILS(RyxObjectStatusInvalidParameter, "the form parameter was not a RYX form: -1",
               RyxObjectLoad, (RyxObjectForm)-1, "{}", 2, &loaded);
   CHECK_FAILS(RyxObjectStatusFailure,
@@ -55,6 +55,44 @@ static void FailuresAreReportedLeavingTheOutputs(void) {
               RyxObjectSave, unregistered, RyxObjectFormJson, &data, &size);
   CHECK(data == unwritten && size == 12345 && loaded == unregistered);
   RyxObjectRelease(unregistered);
+}
+
+// Plain JSON loads as the JSON decides, or as a schema given as text says.
+static void PlainJsonLoadsAsItsSchemaSays(void) {
+  RyxObject* const pair = RyxObjectArrayCreateObjects(RyxObjectInt32Create(7),
+                                                      RyxObjectStringCreate("a"), NULL);
+  RyxObject* loaded = NULL;
+  char* data = NULL;
+  size_t size = 0;
+  int64_t wide = 0;
+  CHECK_OK(RyxObjectSave(pair, RyxObjectFormPlainJsonCompact, &data, &size));
+  CHECK(strcmp(data, "[7,\"a\"]") == 0 && size == 7);
+  CHECK_OK(RyxObjectLoad(RyxObjectFormPlainJson, data, size, &loaded));
+  CHECK(RyxObjectInt64Get(RyxObjectArrayPeek(loaded, 0), &wide) == RyxObjectStatusSuccess &&
+        wide == 7);
+  RyxObjectRelease(loaded);
+  CHECK_OK(RyxObjectLoadPlainJson(data, size, "Array<Int32,String>", &loaded));
+  CHECK(Int32Of(RyxObjectArrayPeek(loaded, 0)) == 7);
+  RyxObjectRelease(loaded);
+  CHECK_OK(RyxObjectLoadPlainJson("null", 4, NULL, &loaded));
+  CHECK(loaded == NULL);
+  free(data);
+  CHECK_OK(RyxObjectSave(pair, RyxObjectFormPlainJson, &data, &size));
+  CHECK(strcmp(data, "[\n    7,\n    \"a\"\n]") == 0);
+  free(data);
+  loaded = pair;
+  CHECK_FAILS(RyxObjectStatusInvalidParameter,
+              "the schema parameter was not a RYX schema: Bad schema at character 12 of "
+              "\"Array<Int32\": expected ',' or '>'",
+              RyxObjectLoadPlainJson, "[7]", 3, "Array<Int32", &loaded);
+  CHECK_FAILS(RyxObjectStatusFailure,
+              "failed to load the RYX object: line 1, column 2, at /0: the integer 300 is out of "
+              "the range of ryx.object.Int8 (-128 to 127)",
+              RyxObjectLoadPlainJson, "[300]", 5, "Array<Int8>", &loaded);
+  CHECK_FAILS(RyxObjectStatusInvalidParameter, "the data parameter was NULL",
+              RyxObjectLoadPlainJson, NULL, 0, NULL, &loaded);
+  CHECK(loaded == pair);
+  RyxObjectRelease(pair);
 }
 
 static void RenderFillsTheTemplateFromTheValueOrNull(void) {
@@ -71,5 +109,5 @@ static void RenderFillsTheTemplateFromTheValueOrNull(void) {
 }
 
 TESTS(Serialize, TEST_CASE(DocumentsLoadBackInEveryFormAndTheNullRecordAsNull),
-      TEST_CASE(FailuresAreReportedLeavingTheOutputs),
+      TEST_CASE(FailuresAreReportedLeavingTheOutputs), TEST_CASE(PlainJsonLoadsAsItsSchemaSays),
       TEST_CASE(RenderFillsTheTemplateFromTheValueOrNull));

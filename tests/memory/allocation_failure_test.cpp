@@ -355,7 +355,32 @@ Case const Cases[] = {
     RyxObjectRelease(loaded);
     return status != RyxObjectStatusSuccess;
   }},
+  {"RyxObjectLoadPlainJson: ", true, [] {
+    std::string const text = ToPlainJson(Sample());
+    auto const expected = FromPlainJson(text, ParseRequired("Dictionary"));
+    RyxObject* loaded = nullptr;
+    RyxObjectStatus const status = Armed([&] {
+      return RyxObjectLoadPlainJson(text.data(), text.size(), "Dictionary", &loaded);
+    });
+    EXPECT_TRUE(status == RyxObjectStatusSuccess ? Peek(loaded).EqualTo(*expected)
+                                                 : status == RyxObjectStatusAllocationFailure &&
+                                                       loaded == nullptr);
+    RyxObjectRelease(loaded);
+    return status != RyxObjectStatusSuccess;
+  }},
   {"ToJson compact", false, [] { return SavesWhole(Laid(JsonLayout::Compact, ToJson)); }},
+  {"ToPlainJson", false, [] { return SavesWhole(Laid(JsonLayout::Indented, ToPlainJson)); }},
+  {"FromPlainJson", false, [] {
+    // Without a schema the JSON decides: the integers come back as Int64.
+    std::string const text = ToPlainJson(Sample());
+    Required const schema = ParseRequired("Dictionary");
+    auto const expected = FromPlainJson(text, schema);
+    auto const value = ArmedOrBadAlloc([&] { return FromPlainJson(text, schema); });
+    if (value) {
+      EXPECT_TRUE(*value && (*value)->EqualTo(*expected));
+    }
+    return !value;
+  }},
   {"ToJsonThroughArchive", false, [] {
     return SavesWhole(Laid(JsonLayout::Indented, ToJsonThroughArchive));
   }},

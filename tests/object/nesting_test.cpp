@@ -117,6 +117,7 @@ TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
       std::ostringstream json;
       std::ostringstream xml;
       std::string binary;
+      std::string plain;
       EXPECT_EQ(RunOnStack(64 << 20,
                            [&] {
                              cereal::JSONOutputArchive jsonArchive(
@@ -126,6 +127,7 @@ TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
                                  xml, cereal::XMLOutputArchive::Options().indent(false));
                              Save(xmlArchive, value);
                              binary = ToBinary(value);
+                             plain = ToPlainJson(value, JsonLayout::Compact);
                            }),
                 "finished");
       std::pair<char const*, std::function<void()>> const operations[] = {
@@ -135,6 +137,10 @@ TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
           {"FromXml", [&] { FromXml(xml.str()); }},
           {"ToBinary", [&] { ToBinary(value); }},
           {"FromBinary", [&] { FromBinary(binary); }},
+          {"ToPlainJson", [&] { ToPlainJson(value); }},
+          // Read under the value's own schema, which nests as deep as the value.
+          {"FromPlainJson", [&] { FromPlainJson(plain, value->GetRequired()); }},
+          {"FormatRequired", [&] { FormatRequired(value->GetRequired()); }},
           {"Copy", [&] { Object::Copy(*value); }},
           {"EqualTo", [&] { static_cast<void>(value->EqualTo(*value)); }},
           {"ToTemplateData", [&] { ToTemplateData(value); }},

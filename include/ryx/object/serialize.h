@@ -3,7 +3,9 @@
  *
  * A value is saved into a document of one of three forms: JSON, XML, or the
  * portable binary form (an endianness byte, then the value; it loads on a
- * machine of either byte order). Documents are handed out as blocks
+ * machine of either byte order); or as plain JSON, the JSON anyone writes,
+ * without type names (see <ryx/object/serialize/plain_json.hpp> for how each
+ * kind maps). Documents are handed out as blocks
  * allocated with malloc that the caller frees with free(); the text forms
  * carry a terminating NUL after their `*size` bytes, so they can be used as C
  * strings.
@@ -14,8 +16,9 @@
  * are checked first, in their order, then the form. On failure no output is
  * written. The statuses are:
  *
- *   RyxObjectStatusInvalidParameter   a NULL pointer parameter, or a form
- *                                     that is none of RyxObjectForm's values
+ *   RyxObjectStatusInvalidParameter   a NULL pointer parameter, a form that
+ *                                     is none of RyxObjectForm's values, or
+ *                                     a schema text that is not a schema
  *   RyxObjectStatusFailure            a document that does not load, a value
  *                                     that cannot be saved, a template that
  *                                     does not render; the message carries
@@ -39,7 +42,11 @@ extern "C" {
 typedef enum RyxObjectForm {
   RyxObjectFormJson = 0,
   RyxObjectFormXml = 1,
-  RyxObjectFormBinary = 2
+  RyxObjectFormBinary = 2,
+  /* Plain JSON, indented by four spaces; it loads as the JSON decides. */
+  RyxObjectFormPlainJson = 3,
+  /* Plain JSON without any whitespace; loads as RyxObjectFormPlainJson. */
+  RyxObjectFormPlainJsonCompact = 4
 } RyxObjectForm;
 
 /*
@@ -57,10 +64,25 @@ RYX_OBJECT_API RyxObjectStatus RyxObjectSave(RyxObject const* object, RyxObjectF
  * no terminator needed) and sets `*object` to a returned owned handle of the
  * value. `*object` is set to NULL, with RyxObjectStatusSuccess, for the null
  * record and for a JSON or XML document naming a type that is not registered
- * (a binary document cannot be read past such a type, and fails).
+ * (a binary document cannot be read past such a type, and fails), and for
+ * the plain JSON text null.
  */
 RYX_OBJECT_API RyxObjectStatus RyxObjectLoad(RyxObjectForm form, char const* data, size_t size,
                                              RyxObject** object) RYX_OBJECT_NOEXCEPT;
+
+/*
+ * Loads the plain JSON text held in the `size` bytes at `data` (borrowed; no
+ * terminator needed) under the schema written as text in `schema` (borrowed,
+ * NUL-terminated; NULL for none), and sets `*object` to a returned owned
+ * handle of the value, or to NULL for the text null read without a schema.
+ * With a schema the value conforms to it or the load fails. The schema is
+ * written as ryx-object prints schemas: "ryx.object.Array<ryx.object.Int32>",
+ * "any<Int32,String>" (see FormatRequired in <ryx/object/required_text.hpp>);
+ * text that is not a schema answers RyxObjectStatusInvalidParameter.
+ */
+RYX_OBJECT_API RyxObjectStatus RyxObjectLoadPlainJson(char const* data, size_t size,
+                                                      char const* schema,
+                                                      RyxObject** object) RYX_OBJECT_NOEXCEPT;
 
 /*
  * Renders the mustache template `mustache` (borrowed, NUL-terminated) over
