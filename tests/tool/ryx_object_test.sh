@@ -118,6 +118,33 @@ for bad in cut.bin bad.json bad.xml bad.text; do
     fail "check --quiet $bad: status 1 and no output"
 done
 
+# Plain JSON: written and read with --to plain / --from plain, typed by
+# --schema; a typed load of plain JSON says --from plain exists.
+printf '{"name": "widget", "sizes": [1, 2]}' >plain.json
+expect 0 "print plain JSON" "$tool" print --from plain plain.json
+printf 'ryx.object.Dictionary {\n  "name": ryx.object.String "widget"\n  "sizes": ryx.object.Array [\n    [0] ryx.object.Int64 1\n    [1] ryx.object.Int64 2\n  ]\n}\n' >plain.expected
+same "the tree of plain JSON" out plain.expected
+printf '{"sizes": [1, 2]}' >sizes.json
+expect 0 "convert plain JSON under a schema" "$tool" convert --from plain \
+  --schema 'Dictionary<Array<Int32>>' --to json --compact sizes.json
+grep -q '"typename":"ryx.object.Int32","value":2' out || fail "the schema's kinds are read"
+expect 1 "plain JSON that does not conform" "$tool" check --from plain --schema 'Dictionary<String>' plain.json
+grep -q '^ryx-object: plain.json: line 1, column 29, at /sizes: expected ryx.object.String, found an array$' err ||
+  fail "the non-conforming member is named by line, column and path"
+for plain in '{"sizes": [1, 2]}' '[1, 2]'; do
+  printf '%s' "$plain" >untyped.json
+  expect 1 "plain JSON read as a typed document: $plain" "$tool" check untyped.json
+  grep -q 'read it with --from plain' err || fail "a typed load of $plain suggests --from plain"
+done
+expect 2 "a schema without --from plain" "$tool" check --schema Int32 plain.json
+expect 2 "a schema that is not one" "$tool" check --from plain --schema 'Array<' plain.json
+expect 0 "convert plain JSON to plain JSON" "$tool" convert --from plain --to plain --compact plain.json
+grep -qx '{"sizes":\[1,2\],"name":"widget"}\|{"name":"widget","sizes":\[1,2\]}' out ||
+  fail "plain JSON converts to the same plain JSON"
+expect 1 "a pointer has no plain form" "$tool" convert --to plain record.json
+grep -q 'at /mixed/6: ryx.object.ConstPointer has no plain JSON form' err ||
+  fail "the value without a plain form is named by its path"
+
 # A template over the document.
 printf '{{#properties}}{{key}}:{{#value}}{{#objects}}{{#is.typename.ryx.object.Int32}} {{value}}%s;{{/properties}}' \
   '{{/is.typename.ryx.object.Int32}}{{/objects}}{{/value}}' >list.mustache

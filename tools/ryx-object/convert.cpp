@@ -31,8 +31,9 @@ void AddConvert(CLI::App& app) {
   command->add_option("--to", options->to, "The form to write")
       ->required()
       ->transform(FormName())
-      ->option_text("json|xml|binary REQUIRED");
-  command->add_flag("--compact", options->compact, "Write JSON without any whitespace");
+      ->option_text("json|xml|binary|plain REQUIRED");
+  command->add_flag("--compact", options->compact,
+                    "Write JSON (typed or plain) without any whitespace");
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
   command->callback(

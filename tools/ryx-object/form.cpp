@@ -2,13 +2,14 @@
 
 #include <ryx/object/serialize/binary.hpp>
 #include <ryx/object/serialize/json.hpp>
+#include <ryx/object/serialize/plain_json.hpp>
 #include <ryx/object/serialize/xml.hpp>
 
 namespace ryx::object::tool {
 
 std::map<std::string, Form> const& FormNames() {
   static std::map<std::string, Form> const names{
-      {"json", Form::Json}, {"xml", Form::Xml}, {"binary", Form::Binary}};
+      {"json", Form::Json}, {"xml", Form::Xml}, {"binary", Form::Binary}, {"plain", Form::Plain}};
   return names;
 }
 
@@ -30,12 +31,14 @@ std::optional<Form> DetectForm(std::string_view bytes) noexcept {
   }
 }
 
-std::shared_ptr<Object> Load(Form form, std::string_view document) {
+std::shared_ptr<Object> Load(Form form, std::string_view document, Required const& schema) {
   switch (form) {
     case Form::Json:
       return FromJson(document);
     case Form::Xml:
       return FromXml(document);
+    case Form::Plain:
+      return FromPlainJson(document, schema);
     case Form::Binary:
       break;
   }
@@ -48,6 +51,8 @@ std::string Save(Form form, std::shared_ptr<Object const> const& value, JsonLayo
       return ToJson(value, layout);
     case Form::Xml:
       return ToXml(value);
+    case Form::Plain:
+      return ToPlainJson(value, layout);
     case Form::Binary:
       break;
   }

@@ -29,21 +29,6 @@ std::string TypeText(hash::MurmurThree32 id, char const* null) {
   return hex;
 }
 
-// "any" for the null type; children in angle brackets.
-std::string SchemaText(Required const& schema) {
-  std::string text = TypeText(schema.GetType(), "any");
-  if (!schema.GetChildTypes().empty()) {
-    char separator = '<';
-    for (Required const& child : schema.GetChildTypes()) {
-      text += separator;
-      text += SchemaText(child);
-      separator = ',';
-    }
-    text += '>';
-  }
-  return text;
-}
-
 // A JSON string literal, so that control characters stay visible.
 void AppendQuoted(std::string& out, std::string_view text) {
   out += '"';
@@ -147,7 +132,7 @@ class Printer {
 
   void Schema(Required const& schema) {
     if (schema) {
-      out += " required " + SchemaText(schema);
+      out += " required " + FormatRequired(schema);
     }
   }
 
