@@ -132,8 +132,8 @@ class JsonWalk {
 
   [[nodiscard]] bool Content(DictionaryKind const& dictionary) {
     form.OpenDictionary(dictionary);
-    for (auto const& [key, child] : dictionary.GetProperties()) {
-      if (!form.Entry(key, [&] { return Value(child.get()); })) {
+    for (auto const& entry : dictionary.GetProperties()) {
+      if (!form.Entry(entry.first, [&] { return Value(entry.second.get()); })) {
         return false;
       }
     }
