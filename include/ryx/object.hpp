@@ -37,8 +37,11 @@
 #include <ryx/object/registry/get.hpp>
 #include <ryx/object/registry/info.hpp>
 #include <ryx/object/required.hpp>
+#include <ryx/object/required_text.hpp>
 #include <ryx/object/serialize/binary.hpp>
 #include <ryx/object/serialize/json.hpp>
+#include <ryx/object/serialize/location.hpp>
+#include <ryx/object/serialize/plain_json.hpp>
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/load_functions.hpp>
 #include <ryx/object/serialize/plain_functions.hpp>

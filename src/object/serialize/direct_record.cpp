@@ -14,6 +14,26 @@ namespace ryx::object::detail {
 
 namespace {
 
+// Each kind with its LibraryKind: X(Type, Name).
+#define RYX_OBJECT_DETAIL_KINDS(X)                                                      \
+  X(Bool, Bool)                                                                        \
+  X(Int8, Int8)                                                                        \
+  X(Int16, Int16)                                                                      \
+  X(Int32, Int32)                                                                      \
+  X(Int64, Int64)                                                                      \
+  X(UInt8, UInt8)                                                                      \
+  X(UInt16, UInt16)                                                                    \
+  X(UInt32, UInt32)                                                                    \
+  X(UInt64, UInt64)                                                                    \
+  X(Float, Float)                                                                      \
+  X(Double, Double)                                                                    \
+  X(String, String)                                                                    \
+  X(ArrayKind, Array)                                                                  \
+  X(DictionaryKind, Dictionary)                                                        \
+  X(EnumKind, Enum)                                                                    \
+  X(PointerKind, Pointer)                                                              \
+  X(ConstPointerKind, ConstPointer)
+
 template <class Function, template <class, class> class Handler, class Archive>
 LibraryKind KindOf(Function const& function) {
   if (!function) {
@@ -27,23 +47,7 @@ LibraryKind KindOf(Function const& function) {
     }
   };
 #define RYX_OBJECT_DETAIL_MATCH(Type, Name) match(std::common_type<Type>(), LibraryKind::Name);
-  RYX_OBJECT_DETAIL_MATCH(Bool, Bool)
-  RYX_OBJECT_DETAIL_MATCH(Int8, Int8)
-  RYX_OBJECT_DETAIL_MATCH(Int16, Int16)
-  RYX_OBJECT_DETAIL_MATCH(Int32, Int32)
-  RYX_OBJECT_DETAIL_MATCH(Int64, Int64)
-  RYX_OBJECT_DETAIL_MATCH(UInt8, UInt8)
-  RYX_OBJECT_DETAIL_MATCH(UInt16, UInt16)
-  RYX_OBJECT_DETAIL_MATCH(UInt32, UInt32)
-  RYX_OBJECT_DETAIL_MATCH(UInt64, UInt64)
-  RYX_OBJECT_DETAIL_MATCH(Float, Float)
-  RYX_OBJECT_DETAIL_MATCH(Double, Double)
-  RYX_OBJECT_DETAIL_MATCH(String, String)
-  RYX_OBJECT_DETAIL_MATCH(ArrayKind, Array)
-  RYX_OBJECT_DETAIL_MATCH(DictionaryKind, Dictionary)
-  RYX_OBJECT_DETAIL_MATCH(EnumKind, Enum)
-  RYX_OBJECT_DETAIL_MATCH(PointerKind, Pointer)
-  RYX_OBJECT_DETAIL_MATCH(ConstPointerKind, ConstPointer)
+  RYX_OBJECT_DETAIL_KINDS(RYX_OBJECT_DETAIL_MATCH)
 #undef RYX_OBJECT_DETAIL_MATCH
   return kind;
 }
@@ -58,6 +62,22 @@ std::string Quoted(char const* name) {
   writer.String(name, static_cast<rapidjson::SizeType>(std::strlen(name)));
   return std::string(quoted.GetString(), quoted.GetSize());
 }
+
+// The kind whose type id `id` is, or `other`.
+LibraryKind OwnKind(hash::MurmurThree32 const& id) {
+  LibraryKind kind = LibraryKind::other;
+  auto const match = [&](auto tag, LibraryKind candidate) {
+    if (id == Object::TypeIdOf<typename decltype(tag)::type>()) {
+      kind = candidate;
+    }
+  };
+#define RYX_OBJECT_DETAIL_MATCH(Type, Name) match(std::common_type<Type>(), LibraryKind::Name);
+  RYX_OBJECT_DETAIL_KINDS(RYX_OBJECT_DETAIL_MATCH)
+#undef RYX_OBJECT_DETAIL_MATCH
+  return kind;
+}
+
+#undef RYX_OBJECT_DETAIL_KINDS
 
 template <class Output, class Input>
 std::pair<LibraryKind, LibraryKind> KindsOf(registry::Info const& info) {
@@ -75,7 +95,7 @@ DirectRecord MakeDirectRecord(registry::Info const& info) {
   auto const [binarySave, binaryLoad] =
       KindsOf<cereal::PortableBinaryOutputArchive, cereal::PortableBinaryInputArchive>(info);
   char const* const name = info.GetTypeName();
-  return DirectRecord{jsonSave, jsonLoad, binarySave, binaryLoad,
+  return DirectRecord{OwnKind(info.GetTypeNameId()), jsonSave, jsonLoad, binarySave, binaryLoad,
                       Quoted(name != nullptr ? name : "")};
 }
 

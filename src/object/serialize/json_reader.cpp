@@ -16,6 +16,7 @@
 #include "object/serialize/detail/json_allocator.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/loaded.hpp"
+#include "object/serialize/detail/pending_children.hpp"
 #include "object/serialize/detail/record_memo.hpp"
 
 #include <rapidjson/memorystream.h>
@@ -110,11 +111,11 @@ class Builder {
         ++skipped;
         return true;
       case Step::ObjectsStart:
-        top.mark = elements.size();
+        top.mark = children.ElementMark();
         top.step = Step::Objects;
         return true;
       case Step::PropertiesStart:
-        top.mark = entries.size();
+        top.mark = children.EntryMark();
         top.step = Step::Properties;
         return true;
       case Step::ChildTypesStart:
@@ -200,7 +201,7 @@ class Builder {
         top.step = Step::End;
         return true;
       case Step::EntryKey:
-        entries.emplace_back(std::string(text, UpToNul(text, length)), nullptr);
+        children.AddKey(std::string(text, UpToNul(text, length)));
         top.step = Step::EntryValueName;
         return true;
       default:
@@ -444,7 +445,7 @@ class Builder {
         value->GetOptions().Set(Option::deserializing);
         FillDictionary(static_cast<DictionaryKind&>(*value), top.mark);
       } else {
-        entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(top.mark), entries.end());
+        children.DropEntries(top.mark);
         schemas.pop_back();
       }
     } else if (value != nullptr && top.kind == LibraryKind::Array) {
@@ -459,35 +460,24 @@ class Builder {
       root = std::move(value);
       done = true;
     } else if (frames.back().step == Step::Objects) {
-      elements.push_back(std::move(value));
+      children.AddElement(std::move(value));
     } else {
-      entries.back().second = std::move(value);
+      children.SetLastValue(std::move(value));
     }
     return true;
   }
 
   // As the archive's load: the list sized to the elements read, exactly.
   void FillArray(ArrayKind& array, std::size_t mark) {
-    auto const first = elements.begin() + static_cast<std::ptrdiff_t>(mark);
-    ArrayKind::Objects objects(std::make_move_iterator(first),
-                               std::make_move_iterator(elements.end()));
-    elements.erase(first, elements.end());
+    ArrayKind::Objects objects = children.TakeElements(mark);
     Required required = TakeSchema();
     LoadedArray loaded{required, objects};
     array.Serialize(loaded);
   }
 
-  // As the archive's load: room for every entry read, then each inserted in
-  // document order, the first of repeated keys kept. The same steps give the
-  // same iteration order.
+  // As the archive's load: each entry inserted in document order.
   void FillDictionary(DictionaryKind& dictionary, std::size_t mark) {
-    auto const first = entries.begin() + static_cast<std::ptrdiff_t>(mark);
-    DictionaryKind::Properties properties;
-    properties.reserve(static_cast<std::size_t>(entries.end() - first));
-    for (auto entry = first; entry != entries.end(); ++entry) {
-      properties.try_emplace(std::move(entry->first), std::move(entry->second));
-    }
-    entries.erase(first, entries.end());
+    DictionaryKind::Properties properties = children.TakeEntries(mark);
     Required required = TakeSchema();
     LoadedDictionary loaded{properties, required};
     dictionary.Serialize(loaded);
@@ -512,9 +502,7 @@ class Builder {
 
   std::size_t const limit;
   std::vector<Frame> frames;
-  // Finished children waiting for the container that holds them.
-  std::vector<std::shared_ptr<Object>> elements;
-  std::vector<std::pair<std::string, std::shared_ptr<Object>>> entries;
+  PendingChildren children;
   std::vector<Required> schemas;
   std::size_t values = 0;
   std::size_t schemaLevels = 0;

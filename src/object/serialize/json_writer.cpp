@@ -7,220 +7,126 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "object/detail/nesting_guard.hpp"
-#include "object/detail/prefetch.hpp"
-#include "object/serialize/detail/archives.hpp"
-#include "object/serialize/detail/json_allocator.hpp"
-#include "object/serialize/detail/string_output.hpp"
-#include "object/serialize/detail/kinds.hpp"
-#include "object/serialize/detail/record_memo.hpp"
-#include "object/serialize/detail/type_record.hpp"
+#include "object/serialize/detail/json_walk.hpp"
+#include "object/serialize/detail/json_writers.hpp"
 
 namespace ryx::object::detail {
 
 namespace {
 
-// The settings of cereal's JSON output archive with its default options.
-constexpr char IndentChar = ' ';
-constexpr unsigned IndentLength = 4;
+// cereal's JSON output archive writes doubles at this precision.
 constexpr int MaxDecimalPlaces = 324;
 
 using rapidjson::SizeType;
 
-// rapidjson's Writer or PrettyWriter, which also copies text already written
-// as JSON (member names, the registered type names) in one piece, after the
-// same separator and indentation as any other value.
-template <class Base, bool Pretty>
-class LiteralWriter : public Base {
- public:
-  using Base::Base;
-
-  void Literal(std::string_view json, rapidjson::Type type) {
-    if constexpr (Pretty) {
-      this->PrettyPrefix(type);
-    } else {
-      this->Prefix(type);
-    }
-    // A literal is never the whole document, so nothing needs flushing.
-    this->os_->Write(json.data(), json.size());
-  }
-};
-
-using Ch = rapidjson::UTF8<>;
-using CompactWriter = LiteralWriter<
-    rapidjson::Writer<StringOutput, Ch, Ch, JsonStackAllocator, rapidjson::kWriteDefaultFlags>,
-    false>;
-using IndentedWriter =
-    LiteralWriter<rapidjson::PrettyWriter<StringOutput, Ch, Ch, JsonStackAllocator,
-                                          rapidjson::kWriteDefaultFlags>,
-                  true>;
-
+// The typed form: every value an object of "typename" and its kind's
+// members, written as the registered save functions write them through the
+// archive, member for member and number kind for number kind.
 template <class Writer>
-class DirectWriter {
+class TypedJson {
  public:
-  explicit DirectWriter(Writer& writer) : writer(writer) {}
+  explicit TypedJson(Writer& writer) : writer(writer) {}
 
-  // The value's members in the root object; false for a value only the
-  // archive can write.
-  [[nodiscard]] bool Node(Object const* value) {
+  static LibraryKind KindOf(RecordMemo::Entry const& record) { return record.direct.jsonSave; }
+
+  [[noreturn]] static void NoFunction(RecordMemo::Entry const& record) {
+    throw std::runtime_error("No serialization function available: " + record.name);
+  }
+
+  // A save function of someone else's: only the archive can run it.
+  template <class Walk>
+  static bool Other(Object const&, RecordMemo::Entry const&, Walk&) {
+    return false;
+  }
+
+  void Null() {
     writer.StartObject();
-    if (!Members(value)) {
+    Name("typename");
+    writer.String("", 0);
+    writer.EndObject();
+  }
+
+  void Open(RecordMemo::Entry const& record) {
+    writer.StartObject();
+    Name("typename");
+    writer.Literal(record.direct.quotedName, rapidjson::kStringType);
+  }
+
+  void Close() { writer.EndObject(); }
+
+  // Each C++ type goes to the writer call that cereal's archive picks for it.
+  template <class T>
+  void Scalar(T const& value) {
+    Name("value");
+    Number(value);
+  }
+
+  void OpenArray(ArrayKind const& array) {
+    Name("required");
+    Schema(array.GetRequired());
+    Name("objects");
+    writer.StartArray();
+  }
+
+  template <class WriteChild>
+  static bool Element(std::size_t, WriteChild const& writeChild) {
+    return writeChild();
+  }
+
+  void CloseArray(ArrayKind const&) { writer.EndArray(); }
+
+  void OpenDictionary(DictionaryKind const&) {
+    Name("properties");
+    writer.StartArray();
+  }
+
+  template <class WriteChild>
+  bool Entry(std::string const& key, WriteChild const& writeChild) {
+    writer.StartObject();
+    Name("key");
+    Text(key);
+    Name("value");
+    if (!writeChild()) {
       return false;
     }
     writer.EndObject();
     return true;
   }
 
- private:
-  [[nodiscard]] bool Members(Object const* value) {
-    NestingGuard const level(Nesting::value);
-    if (value == nullptr) {
-      Name("typename");
-      writer.String("", 0);
-      return true;
-    }
-    RecordMemo::Entry const* const record = records.Find(value->GetType());
-    if (record == nullptr) {
-      ThrowNotRegistered(*value);
-    }
-    switch (record->direct.jsonSave) {
-      case LibraryKind::none:
-        throw std::runtime_error("No serialization function available: " + record->name);
-      case LibraryKind::other:
-        return false;
-      case LibraryKind::Bool:
-        return WritePrimitive<Bool>(*value, *record);
-      case LibraryKind::Int8:
-        return WritePrimitive<Int8>(*value, *record);
-      case LibraryKind::Int16:
-        return WritePrimitive<Int16>(*value, *record);
-      case LibraryKind::Int32:
-        return WritePrimitive<Int32>(*value, *record);
-      case LibraryKind::Int64:
-        return WritePrimitive<Int64>(*value, *record);
-      case LibraryKind::UInt8:
-        return WritePrimitive<UInt8>(*value, *record);
-      case LibraryKind::UInt16:
-        return WritePrimitive<UInt16>(*value, *record);
-      case LibraryKind::UInt32:
-        return WritePrimitive<UInt32>(*value, *record);
-      case LibraryKind::UInt64:
-        return WritePrimitive<UInt64>(*value, *record);
-      case LibraryKind::Float:
-        return WritePrimitive<Float>(*value, *record);
-      case LibraryKind::Double:
-        return WritePrimitive<Double>(*value, *record);
-      case LibraryKind::String:
-        return WritePrimitive<String>(*value, *record);
-      case LibraryKind::Array:
-        return WriteKind<ArrayKind>(*value, *record);
-      case LibraryKind::Dictionary:
-        return WriteKind<DictionaryKind>(*value, *record);
-      case LibraryKind::Enum:
-        return WriteKind<EnumKind>(*value, *record);
-      case LibraryKind::Pointer:
-        return WriteKind<PointerKind>(*value, *record);
-      case LibraryKind::ConstPointer:
-        return WriteKind<ConstPointerKind>(*value, *record);
-    }
-    return false;
-  }
-
-  // The type record; false when the record's function is of another kind
-  // than the value (its checked cast would throw in the archive).
-  template <class T>
-  [[nodiscard]] bool TypeRecord(Object const& value, RecordMemo::Entry const& record) {
-    if (!value.Is<T>()) {
-      return false;
-    }
-    Name("typename");
-    writer.Literal(record.direct.quotedName, rapidjson::kStringType);
-    return true;
-  }
-
-  template <class T>
-  [[nodiscard]] bool WritePrimitive(Object const& value, RecordMemo::Entry const& record) {
-    if (!TypeRecord<T>(value, record)) {
-      return false;
-    }
-    Name("value");
-    Scalar(static_cast<T const&>(value).Get());
-    return true;
-  }
-
-  // Each C++ type goes to the writer call that cereal's archive picks for it.
-  void Scalar(bool value) { writer.Bool(value); }
-  void Scalar(signed char value) { writer.Int(value); }
-  void Scalar(short value) { writer.Int(value); }
-  void Scalar(int value) { writer.Int(value); }
-  void Scalar(long value) { writer.Int64(value); }
-  void Scalar(unsigned char value) { writer.Int(value); }
-  void Scalar(unsigned short value) { writer.Int(value); }
-  void Scalar(unsigned value) { writer.Uint(value); }
-  void Scalar(unsigned long value) { writer.Uint64(value); }
-  void Scalar(float value) { writer.Double(value); }
-  void Scalar(double value) { writer.Double(value); }
-  void Scalar(std::string const& value) { Text(value); }
-
-  template <class T>
-  [[nodiscard]] bool WriteKind(Object const& value, RecordMemo::Entry const& record) {
-    if (!TypeRecord<T>(value, record)) {
-      return false;
-    }
-    return Fields(static_cast<T const&>(value));
-  }
-
-  [[nodiscard]] bool Fields(ArrayKind const& array) {
-    Name("required");
-    Schema(array.GetRequired());
-    Name("objects");
-    writer.StartArray();
-    ArrayKind::Objects const& objects = array.GetObjects();
-    for (std::size_t index = 0; index != objects.size(); ++index) {
-      PrefetchAhead(objects, index);
-      if (!Node(objects[index].get())) {
-        return false;
-      }
-    }
-    writer.EndArray();
-    return true;
-  }
-
-  [[nodiscard]] bool Fields(DictionaryKind const& dictionary) {
-    Name("properties");
-    writer.StartArray();
-    for (auto const& [key, child] : dictionary.GetProperties()) {
-      writer.StartObject();
-      Name("key");
-      Text(key);
-      Name("value");
-      if (!Node(child.get())) {
-        return false;
-      }
-      writer.EndObject();
-    }
+  void CloseDictionary(DictionaryKind const& dictionary) {
     writer.EndArray();
     Name("required");
     Schema(dictionary.GetRequired());
-    return true;
   }
 
-  [[nodiscard]] bool Fields(EnumKind const& enumerator) {
+  void Enumerator(EnumKind const& enumerator) {
     Name("type");
     writer.Uint(enumerator.GetEnumType().GetValue());
     Name("value");
     writer.Uint64(enumerator.GetRawValue());
-    return true;
   }
 
   template <class T>
-  [[nodiscard]] bool Fields(object::Pointer<Object, T> const& pointer) {
+  void Pointer(object::Pointer<Object, T> const& pointer) {
     Name("type");
     writer.Uint(pointer.GetPointeeType().GetValue());
-    return true;
   }
+
+ private:
+  void Number(bool value) { writer.Bool(value); }
+  void Number(signed char value) { writer.Int(value); }
+  void Number(short value) { writer.Int(value); }
+  void Number(int value) { writer.Int(value); }
+  void Number(long value) { writer.Int64(value); }
+  void Number(unsigned char value) { writer.Int(value); }
+  void Number(unsigned short value) { writer.Int(value); }
+  void Number(unsigned value) { writer.Uint(value); }
+  void Number(unsigned long value) { writer.Uint64(value); }
+  void Number(float value) { writer.Double(value); }
+  void Number(double value) { writer.Double(value); }
+  void Number(std::string const& value) { Text(value); }
 
   void Schema(Required const& required) {
     NestingGuard const level(Nesting::schema);
@@ -252,13 +158,13 @@ class DirectWriter {
   }
 
   Writer& writer;
-  RecordMemo records;
 };
 
 template <class Writer>
 bool Write(Object const* value, Writer& writer) {
   writer.SetMaxDecimalPlaces(MaxDecimalPlaces);
-  return DirectWriter<Writer>(writer).Node(value);
+  TypedJson<Writer> form(writer);
+  return JsonWalk<TypedJson<Writer>>(form).Value(value);
 }
 
 }  // namespace
@@ -268,11 +174,11 @@ bool WriteJson(Object const* value, JsonLayout layout, std::string& text) {
   JsonStackAllocator allocator;
   bool written = false;
   if (layout == JsonLayout::Indented) {
-    IndentedWriter writer(out, &allocator);
-    writer.SetIndent(IndentChar, IndentLength);
+    IndentedJsonWriter writer(out, &allocator);
+    writer.SetIndent(JsonIndentChar, JsonIndentLength);
     written = Write(value, writer);
   } else {
-    CompactWriter writer(out, &allocator);
+    CompactJsonWriter writer(out, &allocator);
     written = Write(value, writer);
   }
   if (written) {

@@ -3,9 +3,12 @@
 // own kinds its save and load functions for those forms belong to, and its
 // type name as JSON text.
 //
-// They handle a value themselves only when its record holds the library's own
-// function for the kind; `none` stands for a record without the function,
-// `other` for a function of someone else's, which only the archive can run.
+// The typed writers and readers handle a value themselves only when its
+// record holds the library's own function for the kind; `none` stands for a
+// record without the function, `other` for a function of someone else's,
+// which only the archive can run. The plain JSON form goes by `own`, the kind
+// whose type id the record is registered under (`other` for a type of the
+// user's own), whatever its functions.
 #pragma once
 
 #include <ryx/object/registry/info.hpp>
@@ -38,6 +41,7 @@ enum class LibraryKind : std::uint8_t {
 };
 
 struct DirectRecord {
+  LibraryKind own = LibraryKind::other;
   LibraryKind jsonSave = LibraryKind::none;
   LibraryKind jsonLoad = LibraryKind::none;
   LibraryKind binarySave = LibraryKind::none;
