@@ -43,6 +43,12 @@ int main() try {
   Check(FromBinary(ToBinary(task))->EqualTo(*task), "binary round trip");
   std::cout << "JSON, XML and binary (" << ToBinary(task).size() << " bytes) load back equal\n";
 
+  // Plain JSON: an object of the members; a schema says which kind to read.
+  std::string const plain = ToPlainJson(shop, JsonLayout::Compact);
+  std::cout << "plain: " << plain << '\n';
+  Check(FromPlainJson(plain, Required(Object::TypeIdOf<TaskObject>()))->EqualTo(*shop),
+        "plain JSON round trip");
+
   // A copy is deep and equal; changing one member makes it differ.
   auto const copy = std::static_pointer_cast<TaskObject>(Object::Copy(*task));
   Check(copy->blockedBy != task->blockedBy && copy->EqualTo(*task), "deep copy");

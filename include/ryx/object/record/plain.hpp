@@ -6,8 +6,8 @@
 // Reading takes the values plain JSON builds (an integer as an Int64, or a
 // UInt64 above Int64's range; any other number as a Double) and fits each to
 // its member: an integer only when the member's type holds it exactly (Int8
-// from 300 is refused, never wrapped), a number with a fraction never into an
-// integer, a number into float only within float's range, a Bool only into
+// from 300 is refused, never wrapped), a Double or Float (a number written
+// with a fraction or an exponent) never into an integer, a number into float only within float's range, a Bool only into
 // bool, a String only into std::string, an Array element by element under the
 // same rules, and a child member takes any value, or null, as it is. A
 // missing member and a member the record does not describe are refused. Every
@@ -121,18 +121,10 @@ V FitNumber(N number, std::string const& where) {
     }
     return static_cast<V>(number);
   } else if constexpr (std::is_floating_point_v<N>) {
-    // An integer written with a fraction or an exponent (5.0, 1e3) fits;
-    // the bounds are powers of two, so both are exact as doubles.
-    long double const whole = std::trunc(static_cast<long double>(number));
-    if (!std::isfinite(number) || whole != number) {
-      Refuse(where, NumberText(number) + " is not an integer, as " + type::Name<Target>::Value +
-                        " needs");
-    }
-    if (whole < static_cast<long double>(std::numeric_limits<V>::min()) ||
-        whole > static_cast<long double>(std::numeric_limits<V>::max())) {
-      Refuse(where, NumberText(number) + " is out of the range of " + type::Name<Target>::Value);
-    }
-    return static_cast<V>(whole);
+    // As plain JSON reads it, a number with a fraction or an exponent never
+    // fills an integer, whatever its value.
+    Refuse(where, std::string(type::Name<Target>::Value) + " takes integers only, not the number " +
+                      NumberText(number));
   } else {
     if (!HoldsInteger<V>(number)) {
       Refuse(where, NumberText(number) + " is out of the range of " + type::Name<Target>::Value);
