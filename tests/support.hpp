@@ -1,5 +1,5 @@
-// Helpers shared by the C++ tests: value makers, exception texts, a value of
-// an unregistered type, and a snapshot that proves a failed container
+// Helpers shared by the C++ tests: value makers, exception texts, a run on a
+// thread of a given stack size, a value of an unregistered type, and a snapshot that proves a failed container
 // operation changed nothing.
 #pragma once
 
@@ -7,6 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <pthread.h>
+
+#include <exception>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -37,6 +41,35 @@ std::string MessageOf(Call call) {
   }
   ADD_FAILURE() << "no exception";
   return std::string();
+}
+
+// What `call` ended with on a thread of `stackSize` bytes: "finished",
+// "refused" for NestingLimitError, or the text of another exception. An
+// overflow kills the test program.
+inline std::string RunOnStack(std::size_t stackSize, std::function<void()> const& call) {
+  struct Run {
+    std::function<void()> const& call;
+    std::string outcome;
+  } run{call, "finished"};
+  auto const body = [](void* argument) -> void* {
+    Run& run = *static_cast<Run*>(argument);
+    try {
+      run.call();
+    } catch (NestingLimitError const&) {
+      run.outcome = "refused";
+    } catch (std::exception const& e) {
+      run.outcome = e.what();
+    }
+    return nullptr;
+  };
+  pthread_attr_t attributes;
+  pthread_attr_init(&attributes);
+  pthread_attr_setstacksize(&attributes, stackSize);
+  pthread_t thread;
+  EXPECT_EQ(pthread_create(&thread, &attributes, body, &run), 0);
+  pthread_attr_destroy(&attributes);
+  pthread_join(thread, nullptr);
+  return run.outcome;
 }
 
 // A value whose type is not registered, and so cannot be copied.

@@ -27,6 +27,7 @@
 #include <string>
 #include <thread>
 
+#include "record/everything.hpp"
 #include "support.hpp"
 
 namespace {
@@ -147,10 +148,17 @@ auto Laid(JsonLayout layout, Save save) {
   return [layout, save](std::shared_ptr<Object const> const& value) { return save(value, layout); };
 }
 
+// A record holding a record and an array, each member set.
+std::shared_ptr<Object const> RecordSample() {
+  auto const record = test::Full();
+  record->next = test::Full();
+  return record;
+}
+
 // Saving the sample armed gives the text of an unarmed save, or bad_alloc.
 template <class Save>
-bool SavesWhole(Save save) {
-  auto const sample = Sample();
+bool SavesWhole(Save save, std::shared_ptr<Object const> (*makeSample)() = Sample) {
+  auto const sample = makeSample();
   std::string const expected = save(sample);
   auto const text = ArmedOrBadAlloc([&] { return save(sample); });
   if (text) {
@@ -161,8 +169,8 @@ bool SavesWhole(Save save) {
 
 // Loading the sample's document armed gives a value equal to it, or bad_alloc.
 template <class Save, class Load>
-bool LoadsWhole(Save save, Load load) {
-  auto const sample = Sample();
+bool LoadsWhole(Save save, Load load, std::shared_ptr<Object const> (*makeSample)() = Sample) {
+  auto const sample = makeSample();
   std::string const document = save(sample);
   auto const value = ArmedOrBadAlloc([&] { return load(document); });
   if (value) {
@@ -405,6 +413,35 @@ Case const Cases[] = {
   {"FromBinary", false, [] { return LoadsWhole(ToBinary, FromBinary); }},
   {"FromBinaryThroughArchive", false, [] {
     return LoadsWhole(ToBinary, FromBinaryThroughArchive);
+  }},
+  // A registered record goes through its own functions in every form.
+  {"record ToJson", false, [] { return SavesWhole(Laid(JsonLayout::Compact, ToJson), RecordSample); }},
+  {"record FromJson", false, [] {
+    return LoadsWhole(Laid(JsonLayout::Compact, ToJson), FromJson, RecordSample);
+  }},
+  {"record ToXml", false, [] { return SavesWhole(ToXml, RecordSample); }},
+  {"record FromXml", false, [] { return LoadsWhole(ToXml, FromXml, RecordSample); }},
+  {"record ToBinary", false, [] { return SavesWhole(ToBinary, RecordSample); }},
+  {"record FromBinary", false, [] { return LoadsWhole(ToBinary, FromBinary, RecordSample); }},
+  {"record Copy", false, [] {
+    auto const sample = RecordSample();
+    auto const copy = ArmedOrBadAlloc([&] { return Object::Copy(*sample); });
+    if (copy) {
+      EXPECT_TRUE(*copy && (*copy)->EqualTo(*sample));
+    }
+    return !copy;
+  }},
+  {"record Set", false, [] {
+    // A failed Set leaves the record as it was.
+    auto const sample = RecordSample();
+    auto const target = std::make_shared<test::EverythingRecord>();
+    bool const set = ArmedOrBadAlloc([&] { target->Set(*sample); return true; }).has_value();
+    if (set) {
+      EXPECT_TRUE(target->EqualTo(*sample));
+    } else {
+      EXPECT_TRUE(target->EqualTo(test::EverythingRecord()));
+    }
+    return !set;
   }},
 };
 // clang-format on

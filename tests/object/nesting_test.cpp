@@ -3,8 +3,6 @@
 // operation finishes or throws NestingLimitError, never overflows the stack.
 #include "support.hpp"
 
-#include <pthread.h>
-
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -17,6 +15,7 @@ namespace {
 
 using namespace ryx::object;
 using ryx::object::testing::MessageOf;
+using ryx::object::testing::RunOnStack;
 
 enum class Shape { Arrays, Dictionaries, Mixed };
 
@@ -44,35 +43,6 @@ std::shared_ptr<Object> NestSchema(std::size_t depth) {
     schema = Required(Object::TypeIdOf<Array<Object>>(), std::move(children));
   }
   return std::make_shared<Array<Object>>(std::move(schema), Array<Object>::Objects{});
-}
-
-// What `call` ended with on a thread of `stackSize` bytes: "finished",
-// "refused" for NestingLimitError, or the text of another exception. An
-// overflow kills the test program.
-std::string RunOnStack(std::size_t stackSize, std::function<void()> const& call) {
-  struct Run {
-    std::function<void()> const& call;
-    std::string outcome;
-  } run{call, "finished"};
-  auto const body = [](void* argument) -> void* {
-    Run& run = *static_cast<Run*>(argument);
-    try {
-      run.call();
-    } catch (NestingLimitError const&) {
-      run.outcome = "refused";
-    } catch (std::exception const& e) {
-      run.outcome = e.what();
-    }
-    return nullptr;
-  };
-  pthread_attr_t attributes;
-  pthread_attr_init(&attributes);
-  pthread_attr_setstacksize(&attributes, stackSize);
-  pthread_t thread;
-  EXPECT_EQ(pthread_create(&thread, &attributes, body, &run), 0);
-  pthread_attr_destroy(&attributes);
-  pthread_join(thread, nullptr);
-  return run.outcome;
 }
 
 // A release that recursed once per level would overflow 64 KiB within 5,000

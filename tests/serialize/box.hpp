@@ -62,7 +62,8 @@ class Box : public Object {
 };
 
 // Registers Box once, with save and load functions for the three round-trip
-// forms: the type record, then the child in a node "child".
+// forms (one template for all): the type record, then the child in a node
+// "child".
 void RegisterBox();
 
 // `levels` boxes, each holding the next; the innermost holds an Int32.

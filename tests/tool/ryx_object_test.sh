@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Runs the ryx-object tool on small documents of every form and checks what it
-# writes and its exit status.
-#   ryx_object_test.sh TOOL
+# writes and its exit status; with the example's plugin, on documents holding
+# its kind todo.Task.
+#   ryx_object_test.sh TOOL PLUGIN
 set -u
 tool="$1"
+plugin="$2"
 here="$(cd "$(dirname "$0")" && pwd)"
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
@@ -169,6 +171,52 @@ if command -v script >/dev/null; then
   expect 2 "binary to a terminal" sh -c 'script -qec "\"$1\" convert --to binary record.json 2>tty.err" \
     /dev/null >/dev/null; status=$?; cat tty.err >&2; exit $status' sh "$tool"
 fi
+
+# A kind of a plugin's own: every subcommand reads and writes documents
+# holding it once the plugin is loaded.
+cat >task.expected <<'TREE'
+todo.Task {
+  "blocked_by": todo.Task {
+    "blocked_by": null
+    "done": ryx.object.Bool true
+    "priority": ryx.object.UInt32 2
+    "tags": ryx.object.Array required ryx.object.String []
+    "title": ryx.object.String "buy paint"
+  }
+  "done": ryx.object.Bool false
+  "priority": ryx.object.UInt32 1
+  "tags": ryx.object.Array required ryx.object.String [
+    [0] ryx.object.String "garden"
+    [1] ryx.object.String "weekend"
+  ]
+  "title": ryx.object.String "paint the fence"
+}
+TREE
+with_plugin=("$tool" --plugin "$plugin")
+for form in json xml binary; do
+  expect 0 "convert a task to $form" "${with_plugin[@]}" convert --to "$form" -o "task.$form" \
+    "$here/task.json"
+  expect 0 "print a task from $form" "${with_plugin[@]}" print "task.$form"
+  same "the tree of the task's $form document" out task.expected
+  expect 0 "check a task in $form" "${with_plugin[@]}" check "task.$form"
+done
+expect 0 "convert a task back to compact JSON" "${with_plugin[@]}" convert --to json --compact task.binary
+same "the task's compact JSON" out "$here/task.json"
+printf '{{title}}{{#blocked_by}}, after {{title}}{{/blocked_by}}{{#tags}} #{{.}}{{/tags}}' >task.mustache
+expect 0 "render a task" "${with_plugin[@]}" render task.mustache task.binary
+printf 'paint the fence, after buy paint #garden #weekend' >task.rendered
+same "the rendered task" out task.rendered
+expect 0 "types with a plugin" "${with_plugin[@]}" --plugin "$plugin" types
+[ "$(wc -l <out)" -eq 18 ] && grep -q '^todo\.Task ' out && passed=$((passed + 1)) ||
+  fail "types lists the 17 types and todo.Task"
+# Without the plugin the kind is unknown: JSON reads it as null, the binary
+# form cannot read past it.
+expect 0 "print a task without the plugin" "$tool" print "$here/task.json"
+same "an unknown kind reads as null" out <(echo null)
+expect 1 "check a binary task without the plugin" "$tool" check task.binary
+expect 2 "a plugin that cannot be loaded" "$tool" --plugin missing.so types
+grep -q "missing.so" err || fail "the loader's message names the plugin"
+expect 2 "a file that is no shared library" "$tool" --plugin "$here/task.json" types
 
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]

@@ -6,6 +6,7 @@
 // starting with "ryx-object: ".
 #include "commands.hpp"
 #include "errors.hpp"
+#include "plugin.hpp"
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
   CLI::App app("Check, convert, print and render documents of the object model", "ryx-object");
   app.set_version_flag("--version", RYX_OBJECT_VERSION);
   app.require_subcommand(1);
+  tool::AddPluginOption(app);
   tool::AddConvert(app);
   tool::AddPrint(app);
   tool::AddCheck(app);

@@ -92,6 +92,21 @@ bool AppendIf(std::string& out, Object const& value) {
   return true;
 }
 
+// The plain form of a value of a type registered with one (a record), or
+// null.
+std::shared_ptr<Object const> PlainFormOf(Object const& value) {
+  PlainFunctions plain;
+  {
+    auto const map = registry::Get().GetMap();
+    auto const found = map->find(value.GetType());
+    if (found == map->end()) {
+      return nullptr;
+    }
+    plain = found->second.GetPlainFunctions();
+  }
+  return plain ? plain.save(value) : nullptr;
+}
+
 class Printer {
  public:
   std::string Take() { return std::move(out); }
@@ -116,6 +131,10 @@ class Printer {
     } else if (value->Is<Pointer<Object, void const>>()) {
       out +=
           " to " + TypeText(value->As<Pointer<Object, void const>>().GetPointeeType(), "any type");
+    } else if (std::shared_ptr<Object const> const plain = PlainFormOf(*value);
+               plain && plain->Is<Dictionary<Object>>()) {
+      // A type of its own shows its members as its plain form holds them.
+      Entries(plain->As<Dictionary<Object>>(), depth);
     } else {
       AppendIf<bool>(out, *value) || AppendIf<signed char>(out, *value) ||
           AppendIf<short>(out, *value) || AppendIf<int>(out, *value) ||

@@ -85,12 +85,15 @@ public:
   static std::shared_ptr<Object> Copy(Object const& source);
   static std::shared_ptr<Object> Copy(std::shared_ptr<Object const> source);
 
-  // The type record. The const overload writes the member "typename" (the
-  // registered type name) into an XML, JSON or template-data archive and
-  // throws std::logic_error for an unregistered class. The other reads it
-  // from an XML or JSON archive unless `deserializing` is set (Load has read
-  // it then); a record naming another type throws std::runtime_error and the
-  // object keeps its type. Instantiated inside the library for those archives.
+  // The type record, the first thing a save or load function of any type
+  // writes or reads. The const overload writes the member "typename" (the
+  // registered type name) into an XML, JSON or template-data archive, and
+  // throws std::logic_error for an unregistered class; into a portable binary
+  // archive it writes the 32-bit type id. The other reads the record from an
+  // XML, JSON or portable binary archive unless `deserializing` is set (Load
+  // has read it then); a record naming another type throws
+  // std::runtime_error and the object keeps its type. Instantiated inside the
+  // library for those archives.
   template <class Archive>
   void Serialize(Archive& archive) const;
   template <class Archive>

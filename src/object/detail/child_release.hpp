@@ -1,35 +1,5 @@
-// Releases the children of a dying container without recursion.
-//
-// Destroying the last owner of a container destroys its children, which may be
-// containers in turn: a naive destructor recurses once per level and overflows
-// the stack on deeply nested values. Instead, a dying container hands its
-// children to Release, which keeps them on a heap stack and, for each child it
-// is the last owner of, moves that child's own children onto the stack before
-// letting it go. Every destructor then runs on a container already emptied.
-// Releasing never depends on memory: when the stack cannot grow, the children
-// that do not fit are released in place, recursively.
+// detail::ChildRelease, public so that the records of <ryx/object/record.hpp>
+// release their children without recursion like the containers.
 #pragma once
 
-#include <ryx/object/fwd.hpp>
-
-#include <memory>
-#include <vector>
-
-namespace ryx::object::detail {
-
-struct ChildRelease {
-  using Pending = std::vector<std::shared_ptr<Object>>;
-
-  // Empties `container` (an array or a dictionary), releasing its children.
-  static void ReleaseChildren(Object& container) noexcept;
-  // Releases every object of `pending` and leaves it empty.
-  static void Release(Pending& pending) noexcept;
-
-private:
-  // Moves the children of a container that is about to die onto `pending`,
-  // or releases them in place when `pending` cannot grow; either way the
-  // container is left empty.
-  static void TakeChildren(Object& object, Pending& pending) noexcept;
-};
-
-}  // namespace ryx::object::detail
+#include <ryx/object/detail/child_release.hpp>

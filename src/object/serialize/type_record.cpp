@@ -56,41 +56,53 @@ void ReadTypeRecord(cereal::PortableBinaryInputArchive& archive, Object& object)
 
 }  // namespace detail
 
+// In the binary form the record is the bare type id, which every kind's
+// handler writes itself; Serialize writes the same for types of their own.
 template <class Archive>
 void Object::Serialize(Archive& archive) const {
-  std::string const& name = detail::RegisteredTypeName(*this);
-  archive(cereal::make_nvp("typename", name));
-  if constexpr (std::is_same_v<Archive, templating::serialize::archive::output::Data>) {
-    // Beside "typename", the flags a template tests: is.typename.<dotted name>.
-    std::string const key = "typename";
-    cereal::IsFlags const flags = cereal::Is(key, name);
-    archive.SetNextName(flags.first);
-    archive.StartNode();
-    archive.SetNextName(flags.second);
-    archive.StartNode();
-    flags.flag.Serialize(archive);
-    archive.FinishNode();
-    archive.FinishNode();
+  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryOutputArchive>) {
+    detail::WriteTypeRecord(archive, *this);
+  } else {
+    std::string const& name = detail::RegisteredTypeName(*this);
+    archive(cereal::make_nvp("typename", name));
+    if constexpr (std::is_same_v<Archive, templating::serialize::archive::output::Data>) {
+      // Beside "typename", the flags a template tests: is.typename.<dotted name>.
+      std::string const key = "typename";
+      cereal::IsFlags const flags = cereal::Is(key, name);
+      archive.SetNextName(flags.first);
+      archive.StartNode();
+      archive.SetNextName(flags.second);
+      archive.StartNode();
+      flags.flag.Serialize(archive);
+      archive.FinishNode();
+      archive.FinishNode();
+    }
   }
 }
 
 template <class Archive>
 void Object::Serialize(Archive& archive) {
-  if (options.Test(Option::deserializing)) {
-    return;
-  }
-  std::string name;
-  archive(cereal::make_nvp("typename", name));
-  // Only the hash of the name is compared, as everywhere in the type system.
-  if (hash::MurmurThree32::MakeData(boost::string_view(name)) != typeId) {
-    detail::ThrowTypeMismatch(name, *this);
+  if constexpr (std::is_same_v<Archive, cereal::PortableBinaryInputArchive>) {
+    detail::ReadTypeRecord(archive, *this);
+  } else {
+    if (options.Test(Option::deserializing)) {
+      return;
+    }
+    std::string name;
+    archive(cereal::make_nvp("typename", name));
+    // Only the hash of the name is compared, as everywhere in the type system.
+    if (hash::MurmurThree32::MakeData(boost::string_view(name)) != typeId) {
+      detail::ThrowTypeMismatch(name, *this);
+    }
   }
 }
 
 template void Object::Serialize(cereal::XMLOutputArchive&) const;
 template void Object::Serialize(cereal::JSONOutputArchive&) const;
 template void Object::Serialize(templating::serialize::archive::output::Data&) const;
+template void Object::Serialize(cereal::PortableBinaryOutputArchive&) const;
 template void Object::Serialize(cereal::XMLInputArchive&);
 template void Object::Serialize(cereal::JSONInputArchive&);
+template void Object::Serialize(cereal::PortableBinaryInputArchive&);
 
 }  // namespace ryx::object
