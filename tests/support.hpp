@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -72,3 +73,12 @@ struct Snapshot {
 };
 
 }  // namespace ryx::object::testing
+
+namespace ryx::object {
+
+// Failed comparisons of problems print the pointer and the message.
+inline void PrintTo(Problem const& problem, std::ostream* os) {
+  *os << '"' << problem.path << "\": " << problem.message;
+}
+
+}  // namespace ryx::object
