@@ -151,6 +151,28 @@ same "check --strict reports every problem in key order" err loose.expected
   fail "check --strict --quiet: status 1 and no output"
 expect 1 "check --strict a document that does not load" "$tool" check --strict bad.json
 
+# Text on standard output ends with a line feed, and is what -o writes; the
+# binary form is left as it is (an Int32: order byte, id, value).
+ends_with_line_feed() { [ "$(tail -c 1 "$1" | od -An -tx1 | tr -d ' ')" = 0a ]; }
+for command in "convert --to json" "convert --to json --compact" "convert --to xml" print; do
+  expect 0 "$command" "$tool" $command record.json
+  ends_with_line_feed out && passed=$((passed + 1)) || fail "$command: ends with a line feed"
+  mv out printed
+  expect 0 "$command -o" "$tool" $command -o written record.json
+  same "$command: -o writes what standard output gets" written printed
+done
+printf '{"typename": "ryx.object.Int32", "value": 7}' >seven.json
+expect 0 "convert to binary" "$tool" convert --to binary -o seven.bin seven.json
+[ "$(wc -c <seven.bin)" -eq 9 ] && passed=$((passed + 1)) || fail "the binary form gains no byte"
+
+# Each command's help ends with an example of it.
+for command in convert print check render id types; do
+  expect 0 "$command --help" "$tool" "$command" --help
+  grep -q "^  ryx-object $command " out || fail "$command --help shows an example"
+done
+expect 0 "--help" "$tool" --help
+grep -q "^  ryx-object check --strict " out || fail "--help shows examples"
+
 # A template over the document.
 printf '{{#properties}}{{key}}:{{#value}}{{#objects}}{{#is.typename.ryx.object.Int32}} {{value}}%s;{{/properties}}' \
   '{{/is.typename.ryx.object.Int32}}{{/objects}}{{/value}}' >list.mustache

@@ -62,6 +62,10 @@ void AddCheck(CLI::App& app) {
                     "Also report every element that does not fit its container's schema, every "
                     "null value and every value nested too deep, each with its JSON Pointer");
   command->add_flag("-q,--quiet", options->quiet, "Only the exit status tells the outcome");
+  command->footer(
+      "Examples:\n"
+      "  ryx-object check --strict record.json\n"
+      "  ryx-object check -q upload.xml || echo rejected");
   command->callback([options] {
     if (!options->quiet) {
       Check(*options);
