@@ -26,6 +26,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "support.hpp"
 
@@ -380,6 +381,18 @@ Case const Cases[] = {
   {"FromBinary", false, [] { return LoadsWhole(ToBinary, FromBinary); }},
   {"FromBinaryThroughArchive", false, [] {
     return LoadsWhole(ToBinary, FromBinaryThroughArchive);
+  }},
+  {"FindProblems", false, [] {
+    // A dictionary to sort, and a null value to report.
+    auto const value = std::make_shared<Array<Object>>(std::vector<std::shared_ptr<Object>>{
+        std::const_pointer_cast<Object>(Sample()), MakeInt(0)});
+    *value->GetSlot(1) = nullptr;
+    std::vector<Problem> const expected = FindProblems(*value);
+    auto const problems = ArmedOrBadAlloc([&] { return FindProblems(*value); });
+    if (problems) {
+      EXPECT_EQ(*problems, expected);
+    }
+    return !problems;
   }},
 };
 // clang-format on
