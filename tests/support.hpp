@@ -12,6 +12,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -105,3 +106,12 @@ struct Snapshot {
 };
 
 }  // namespace ryx::object::testing
+
+namespace ryx::object {
+
+// Failed comparisons of problems print the pointer and the message.
+inline void PrintTo(Problem const& problem, std::ostream* os) {
+  *os << '"' << problem.path << "\": " << problem.message;
+}
+
+}  // namespace ryx::object

@@ -34,6 +34,7 @@
 #include <ryx/object/parse.hpp>
 #include <ryx/object/pointer.hpp>
 #include <ryx/object/primitive.hpp>
+#include <ryx/object/problems.hpp>
 #include <ryx/object/registry/get.hpp>
 #include <ryx/object/registry/info.hpp>
 #include <ryx/object/required.hpp>

@@ -132,7 +132,18 @@ static void AnotherKindIsRefusedNamingBothTypes(void) {
   RyxObjectRelease(unregistered);
 }
 
+// The harness's sink refuses any message that is not from the logger
+// "ryx.object" at level 16. A failure whose message cannot be allocated is
+// written from a buffer on the stack instead, and must come at that level too.
+static void AFailureIsLoggedAtLevel16AlsoWhenItsMessageCannotBeAllocated(void) {
+  int32_t value = 0;
+  FailNthAllocation(1);
+  CHECK_NULL("object", RyxObjectInt32Get, NULL, &value);
+  FailNthAllocation(0);
+}
+
 TESTS(Generic, TEST_CASE(ReferenceSharesTheValueAndCountsEveryOwner),
       TEST_CASE(StatusMessagesCoverEveryValue),
       TEST_CASE(NullParametersAreNamedAndAnObjectNotConsumed),
-      TEST_CASE(AnotherKindIsRefusedNamingBothTypes));
+      TEST_CASE(AnotherKindIsRefusedNamingBothTypes),
+      TEST_CASE(AFailureIsLoggedAtLevel16AlsoWhenItsMessageCannotBeAllocated));

@@ -26,6 +26,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "record/everything.hpp"
 #include "support.hpp"
@@ -442,6 +443,18 @@ Case const Cases[] = {
       EXPECT_TRUE(target->EqualTo(test::EverythingRecord()));
     }
     return !set;
+  }},
+  {"FindProblems", false, [] {
+    // A dictionary to sort, and a null value to report.
+    auto const value = std::make_shared<Array<Object>>(std::vector<std::shared_ptr<Object>>{
+        std::const_pointer_cast<Object>(Sample()), MakeInt(0)});
+    *value->GetSlot(1) = nullptr;
+    std::vector<Problem> const expected = FindProblems(*value);
+    auto const problems = ArmedOrBadAlloc([&] { return FindProblems(*value); });
+    if (problems) {
+      EXPECT_EQ(*problems, expected);
+    }
+    return !problems;
   }},
 };
 // clang-format on

@@ -132,4 +132,37 @@ TEST(SmallStacks, EveryRecursiveOperationFinishesOrRefusesAtAnyDepth) {
   SetNestingLimit(DefaultNestingLimit);
 }
 
+// The walk keeps its own stack, so only the limit stops it; past the limit it
+// reports the first value, as Save counts levels, and goes no deeper.
+TEST(SmallStacks, FindingProblemsWalksAnyDepthAndReportsTheFirstValuePastTheLimit) {
+  std::size_t const depth = 100000;
+  std::shared_ptr<Object> const deep = Nest(depth);
+  std::vector<Problem> problems;
+  SetNestingLimit(depth + 1);
+  EXPECT_EQ(RunOnStack(128 << 10, [&] { problems = FindProblems(*deep); }), "finished");
+  EXPECT_EQ(problems, std::vector<Problem>{});
+  SetNestingLimit(DefaultNestingLimit);
+  EXPECT_EQ(RunOnStack(128 << 10, [&] { problems = FindProblems(*deep); }), "finished");
+  // The containers are built from the inside, arrays at even steps.
+  std::string path;
+  for (std::size_t level = 0; level != DefaultNestingLimit; ++level) {
+    path += (depth - 1 - level) % 2 == 0 ? "/0" : "/next";
+  }
+  ASSERT_EQ(problems.size(), 1u);
+  EXPECT_EQ(problems[0].path, path);
+  // The same value one level shallower saves; at the limit it does not.
+  for (std::size_t levels : {DefaultNestingLimit - 1, DefaultNestingLimit}) {
+    std::shared_ptr<Object> const value = Nest(levels);
+    bool const saves = [&] {
+      try {
+        ToBinary(value);
+        return true;
+      } catch (NestingLimitError const&) {
+        return false;
+      }
+    }();
+    EXPECT_EQ(FindProblems(value).empty(), saves) << levels << " levels";
+  }
+}
+
 }  // namespace

@@ -120,4 +120,44 @@ TEST_F(DirectPaths, ReadWhatTheyLeaveToTheArchiveAsTheArchiveDoes) {
                           Bytes(std::uint64_t{0}) + Bytes(std::uint64_t{0}));
 }
 
+// The direct readers and writers remember the types they met last in eight
+// slots by id (id % 8) and, for the text form, eight by name (length plus
+// last character, % 8). Many of the library's types share a slot: by id,
+// Int8, UInt8, Double, UInt32 and Float, or Bool, Int32 and Int64; by name,
+// Int8 and UInt16, or Enum, Float, Int64 and Pointer. Each type follows each
+// other in a document of its own, since a wrong answer that the reader cannot
+// parse sends the whole document to the archive, which would hide the rest.
+TEST_F(DirectPaths, TellApartTypesThatShareAMemoSlot) {
+  std::vector<ryx::hash::MurmurThree32> ids;
+  {
+    // The map holds the registry's lock while it lives.
+    auto const map = registry::Get().GetMap();
+    for (auto const& [id, info] : *map) {
+      if (std::string(info.GetTypeName()).rfind("ryx.object.", 0) == 0) {
+        ids.push_back(id);
+      }
+    }
+  }
+  ASSERT_EQ(ids.size(), 17u);
+  for (auto const& first : ids) {
+    for (auto const& second : ids) {
+      Array<Object>::Objects const pair{Object::Make(first), Object::Make(second)};
+      auto const value = std::make_shared<Array<Object>>(pair);
+      std::string const json = ToJson(value, JsonLayout::Compact);
+      std::string const binary = ToBinary(value);
+      ASSERT_EQ(json, ToJsonThroughArchive(value, JsonLayout::Compact));
+      ASSERT_EQ(binary, ToBinaryThroughArchive(value));
+      for (std::shared_ptr<Object> const& loaded : {FromJson(json), FromBinary(binary)}) {
+        ASSERT_TRUE(loaded && loaded->Is<Array<Object>>());
+        auto const& elements = loaded->As<Array<Object>>().GetObjects();
+        ASSERT_TRUE(elements.size() == 2 && elements[0] && elements[1]);
+        ASSERT_TRUE(elements[0]->GetType() == first && elements[1]->GetType() == second)
+            << Object::TypeName(first) << " then " << Object::TypeName(second) << " read as "
+            << Object::TypeName(elements[0]->GetType()) << " then "
+            << Object::TypeName(elements[1]->GetType());
+      }
+    }
+  }
+}
+
 }  // namespace

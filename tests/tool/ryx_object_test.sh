@@ -49,6 +49,8 @@ same() {
   fi
 }
 
+null_value="Null value: an unknown type name or a null record was loaded here"
+
 cat >tree.expected <<'TREE'
 ryx.object.Dictionary {
   "mixed": ryx.object.Array [
@@ -146,6 +148,59 @@ grep -qx '{"sizes":\[1,2\],"name":"widget"}\|{"name":"widget","sizes":\[1,2\]}' 
 expect 1 "a pointer has no plain form" "$tool" convert --to plain record.json
 grep -q 'at /mixed/6: ryx.object.ConstPointer has no plain JSON form' err ||
   fail "the value without a plain form is named by its path"
+
+# --strict looks through what loaded: record.json holds a null value; a sound
+# document passes; each problem is one line naming the file and, as a JSON
+# string, the value's JSON Pointer (keys escaped, so a line stays one line).
+for form in json xml binary; do
+  expect 1 "check --strict $form" "$tool" check --strict "record.$form"
+  grep -qxF "ryx-object: record.$form: \"/mixed/4\": $null_value" err ||
+    fail "check --strict $form: names the null value's file and pointer"
+done
+expect 0 "check --strict a sound document" "$tool" check --strict big.bin
+int32_id="$(awk 'NR == 2 { print $2 }' ids)"
+cat >loose.json <<JSON
+{"typename": "ryx.object.Dictionary", "properties": [
+  {"key": "line\nbreak/a~b", "value": {"typename": "ryx.object.Int33", "value": 1}},
+  {"key": "sizes", "value": {"typename": "ryx.object.Array",
+    "required": {"type": $int32_id, "child_types": []},
+    "objects": [{"typename": "ryx.object.Int32", "value": 1}, {"typename": "ryx.object.Bool", "value": true}]}}
+], "required": {"type": 0, "child_types": []}}
+JSON
+cat >loose.expected <<TEXT
+ryx-object: standard input: "/line\\nbreak~1a~0b": $null_value
+ryx-object: standard input: "/sizes/1": The object 'ryx.object.Bool' did not match the required type 'ryx.object.Int32'
+TEXT
+expect 0 "plain check passes what --strict refuses" "$tool" check loose.json
+"$tool" check --strict <loose.json >out 2>err
+[ $? -eq 1 ] && [ ! -s out ] && passed=$((passed + 1)) || fail "check --strict: status 1, nothing on stdout"
+same "check --strict reports every problem in key order" err loose.expected
+"$tool" check --strict --quiet loose.json >out 2>err
+[ $? -eq 1 ] && [ ! -s out ] && [ ! -s err ] && passed=$((passed + 1)) ||
+  fail "check --strict --quiet: status 1 and no output"
+expect 1 "check --strict a document that does not load" "$tool" check --strict bad.json
+
+# Text on standard output ends with a line feed, and is what -o writes; the
+# binary form is left as it is (an Int32: order byte, id, value).
+ends_with_line_feed() { [ "$(tail -c 1 "$1" | od -An -tx1 | tr -d ' ')" = 0a ]; }
+for command in "convert --to json" "convert --to json --compact" "convert --to xml" print; do
+  expect 0 "$command" "$tool" $command record.json
+  ends_with_line_feed out && passed=$((passed + 1)) || fail "$command: ends with a line feed"
+  mv out printed
+  expect 0 "$command -o" "$tool" $command -o written record.json
+  same "$command: -o writes what standard output gets" written printed
+done
+printf '{"typename": "ryx.object.Int32", "value": 7}' >seven.json
+expect 0 "convert to binary" "$tool" convert --to binary -o seven.bin seven.json
+[ "$(wc -c <seven.bin)" -eq 9 ] && passed=$((passed + 1)) || fail "the binary form gains no byte"
+
+# Each command's help ends with an example of it.
+for command in convert print check render id types; do
+  expect 0 "$command --help" "$tool" "$command" --help
+  grep -q "^  ryx-object $command " out || fail "$command --help shows an example"
+done
+expect 0 "--help" "$tool" --help
+grep -q "^  ryx-object check --strict " out || fail "--help shows examples"
 
 # A template over the document.
 printf '{{#properties}}{{key}}:{{#value}}{{#objects}}{{#is.typename.ryx.object.Int32}} {{value}}%s;{{/properties}}' \

@@ -17,10 +17,15 @@ struct ConvertOptions {
   bool compact = false;
 };
 
-// The document in the form asked for.
+// The document in the form asked for. Text ends with a line feed, as text
+// files and terminals expect; the binary form is left byte for byte.
 std::string Convert(ConvertOptions const& options) {
-  return Save(options.to, LoadDocument(options.document),
-              options.compact ? JsonLayout::Compact : JsonLayout::Indented);
+  std::string document = Save(options.to, LoadDocument(options.document),
+                              options.compact ? JsonLayout::Compact : JsonLayout::Indented);
+  if (options.to != Form::Binary && (document.empty() || document.back() != '\n')) {
+    document += '\n';
+  }
+  return document;
 }
 
 }  // namespace
@@ -36,6 +41,10 @@ void AddConvert(CLI::App& app) {
                     "Write JSON (typed or plain) without any whitespace");
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
+  command->footer(
+      "Examples:\n"
+      "  ryx-object convert --to binary -o record.bin record.json\n"
+      "  ryx-object convert --to json --compact record.bin");
   command->callback(
       [options] { WriteOutput(options->output, Convert(*options), options->to == Form::Binary); });
 }

@@ -35,6 +35,12 @@ int main(int argc, char** argv) {
   tool::AddCheck(app);
   tool::AddRender(app);
   tool::AddTypeIds(app);
+  // Set after the subcommands, which would otherwise inherit it.
+  app.footer(
+      "Examples:\n"
+      "  ryx-object convert --to binary -o record.bin record.json\n"
+      "  ryx-object check --strict record.bin\n"
+      "Each command's --help shows its options and an example.");
   try {
     app.parse(argc, argv);
     return 0;

@@ -24,6 +24,7 @@ void AddPrint(CLI::App& app) {
   CLI::App* const command = app.add_subcommand("print", "Show the document as a readable tree");
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
+  command->footer("Example:\n  ryx-object print record.bin");
   command->callback([options] {
     WriteOutput(options->output, Tree(LoadDocument(options->document).get()), false);
   });

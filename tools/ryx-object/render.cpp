@@ -29,6 +29,7 @@ void AddRender(CLI::App& app) {
   command->add_option("TEMPLATE", options->templatePath, "The mustache template file")->required();
   AddDocumentOptions(*command, options->document);
   AddOutputOption(*command, options->output);
+  command->footer("Example:\n  ryx-object render list.mustache record.json");
   command->callback([options] {
     std::string const mustache(Input(options->templatePath).Bytes());
     WriteOutput(options->output, Render(mustache, LoadDocument(options->document)), false);

@@ -1,5 +1,7 @@
 #include "tree.hpp"
 
+#include "quote.hpp"
+
 #include <ryx/object.hpp>
 
 #include <algorithm>
@@ -27,39 +29,6 @@ std::string TypeText(hash::MurmurThree32 id, char const* null) {
   char hex[16];
   std::snprintf(hex, sizeof hex, "0x%08x", static_cast<unsigned>(id.GetValue()));
   return hex;
-}
-
-// A JSON string literal, so that control characters stay visible.
-void AppendQuoted(std::string& out, std::string_view text) {
-  out += '"';
-  for (char const c : text) {
-    switch (c) {
-      case '"':
-        out += "\\\"";
-        break;
-      case '\\':
-        out += "\\\\";
-        break;
-      case '\n':
-        out += "\\n";
-        break;
-      case '\t':
-        out += "\\t";
-        break;
-      case '\r':
-        out += "\\r";
-        break;
-      default:
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7f) {
-          char escape[8];
-          std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
-          out += escape;
-        } else {
-          out += c;
-        }
-    }
-  }
-  out += '"';
 }
 
 template <class T>

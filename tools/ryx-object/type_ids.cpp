@@ -57,6 +57,7 @@ void AddTypeIds(CLI::App& app) {
   id->add_option("NAME", idOptions->names, "A dotted type name, such as ryx.object.Int32")
       ->required();
   AddOutputOption(*id, idOptions->output);
+  id->footer("Example:\n  ryx-object id ryx.object.Int32 my.app.Colour");
   id->callback([idOptions] {
     std::vector<Named> types;
     for (std::string const& name : idOptions->names) {
@@ -68,6 +69,7 @@ void AddTypeIds(CLI::App& app) {
   auto typesOutput = std::make_shared<OutputOptions>();
   CLI::App* const types = app.add_subcommand("types", "List the registered types and their ids");
   AddOutputOption(*types, *typesOutput);
+  types->footer("Example:\n  ryx-object types | grep Int");
   types->callback([typesOutput] { WriteOutput(*typesOutput, Lines(Registered()), false); });
 }
 

@@ -16,9 +16,9 @@
 #include <utility>
 #include <vector>
 
+#include "object/detail/json_pointer.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/json_allocator.hpp"
-#include "object/serialize/detail/json_pointer.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/loaded.hpp"
 #include "object/serialize/detail/pending_children.hpp"
@@ -552,9 +552,9 @@ class Builder {
     for (std::size_t level = 0; level != levels; ++level) {
       Frame const& frame = frames[level];
       if (!frame.dictionary) {
-        location.path += PointerSegment(frame.count);
+        AppendPointerIndex(location.path, frame.count);
       } else if (frame.keys > frame.count) {  // a key whose value is being read
-        location.path += PointerSegment(pending.KeyAt(frame.current));
+        AppendPointerKey(location.path, pending.KeyAt(frame.current));
       }
     }
     return location;

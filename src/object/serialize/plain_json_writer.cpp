@@ -13,7 +13,7 @@
 #include <string_view>
 #include <utility>
 
-#include "object/serialize/detail/json_pointer.hpp"
+#include "object/detail/json_pointer.hpp"
 #include "object/serialize/detail/json_walk.hpp"
 #include "object/serialize/detail/json_writers.hpp"
 #include "object/serialize/detail/utf8.hpp"
@@ -164,7 +164,9 @@ class PlainJson {
     try {
       return writeChild();
     } catch (Refusal& refusal) {
-      refusal.path.insert(0, PointerSegment(index));
+      std::string segment;
+      AppendPointerIndex(segment, index);
+      refusal.path.insert(0, segment);
       throw;
     }
   }
@@ -178,7 +180,9 @@ class PlainJson {
     try {
       return writeChild();
     } catch (Refusal& refusal) {
-      refusal.path.insert(0, PointerSegment(key));
+      std::string segment;
+      AppendPointerKey(segment, key);
+      refusal.path.insert(0, segment);
       throw;
     }
   }
