@@ -98,7 +98,7 @@ void SetNestingLimit(std::size_t levels) noexcept {
 namespace detail {
 
 NestingGuard::NestingGuard(Nesting nesting, std::size_t laterStack)
-    : depth(depths[static_cast<int>(nesting)]), laterStack(laterStack) {
+    : depth(depths[static_cast<int>(nesting)]), laterStack(laterStack), nesting(nesting) {
   std::size_t const levels = GetNestingLimit();
   if (depth >= levels) {
     ThrowTooDeep(nesting, levels);
@@ -121,6 +121,13 @@ NestingGuard::NestingGuard(Nesting nesting, std::size_t laterStack)
 }
 
 void NestingGuard::ReleaseLaterStack(std::size_t bytes) noexcept { stack.later -= bytes; }
+
+void NestingGuard::RefuseDeeperChildren() const {
+  std::size_t const levels = GetNestingLimit();
+  if (depth >= levels) {
+    ThrowTooDeep(nesting, levels);
+  }
+}
 
 std::size_t StackLeft() {
   std::uintptr_t const frame = CurrentFrame();

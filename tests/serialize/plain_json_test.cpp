@@ -318,6 +318,16 @@ TEST(PlainJson, RefusesWhatIsNotStrictJsonAndSaysWhere) {
 
 TEST(PlainJson, NestingBeyondTheLimitIsRefusedWithItsLocation) {
   std::size_t const limit = GetNestingLimit();
+  // Writing: the innermost number is a level of its own.
+  auto const nest = [](std::size_t arrays) {
+    std::shared_ptr<Object> value = std::make_shared<Int32>(1);
+    for (std::size_t level = 0; level != arrays; ++level) {
+      value = std::make_shared<Array<Object>>(Objects{std::move(value)});
+    }
+    return value;
+  };
+  EXPECT_NO_THROW(ToPlainJson(nest(limit - 1)));
+  EXPECT_THROW(ToPlainJson(nest(limit)), NestingLimitError);
   std::string const atLimit = std::string(limit - 1, '[') + "1" + std::string(limit - 1, ']');
   EXPECT_NO_THROW(FromPlainJson(atLimit));
   std::string const deeper(1000000, '[');

@@ -38,11 +38,17 @@ class RYX_OBJECT_EXPORT NestingGuard {
     }
   }
 
+  // Throws NestingLimitError, as a guard of their own would, when children of
+  // this level would be deeper than the limit: for a walk that enters leaf
+  // values, which recurse no further, without a guard each.
+  void RefuseDeeperChildren() const;
+
  private:
   static void ReleaseLaterStack(std::size_t bytes) noexcept;
 
   std::size_t& depth;
   std::size_t const laterStack;
+  Nesting const nesting;
 };
 
 // The bytes of the calling thread's stack left above the reserve, 0 when

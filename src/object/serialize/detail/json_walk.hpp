@@ -2,7 +2,10 @@
 //
 // It visits each value once, depth first, one nesting level each, finds the
 // value's kind through its registry record and hands every part of it to
-// the form, which writes it: the typed form (json_writer.cpp) writes the
+// the form, which writes it. Containers and types of someone else's each
+// take a nesting level; a container refuses children past the limit for the
+// leaf values, which do not recurse and need no level of their own (most
+// values are leaves). The form: the typed form (json_writer.cpp) writes the
 // members the registered save functions write, the plain form
 // (plain_json_writer.cpp) plain JSON. The walk knows the kinds and their
 // children; the form knows the text. A Form provides:
@@ -43,7 +46,6 @@ class JsonWalk {
   // Writes `value` (null writes the form's null); false when the form leaves
   // a value to the archive.
   [[nodiscard]] bool Value(Object const* value) {
-    NestingGuard const level(Nesting::value);
     if (value == nullptr) {
       form.Null();
       return true;
@@ -55,8 +57,10 @@ class JsonWalk {
     switch (form.KindOf(*record)) {
       case LibraryKind::none:
         form.NoFunction(*record);
-      case LibraryKind::other:
+      case LibraryKind::other: {
+        NestingGuard const level(Nesting::value);
         return form.Other(*value, *record, *this);
+      }
       case LibraryKind::Bool:
         return Visit<Bool>(*value, *record);
       case LibraryKind::Int8:
@@ -81,10 +85,14 @@ class JsonWalk {
         return Visit<Double>(*value, *record);
       case LibraryKind::String:
         return Visit<String>(*value, *record);
-      case LibraryKind::Array:
-        return Visit<ArrayKind>(*value, *record);
-      case LibraryKind::Dictionary:
-        return Visit<DictionaryKind>(*value, *record);
+      case LibraryKind::Array: {
+        NestingGuard const level(Nesting::value);
+        return Visit<ArrayKind>(*value, *record, &level);
+      }
+      case LibraryKind::Dictionary: {
+        NestingGuard const level(Nesting::value);
+        return Visit<DictionaryKind>(*value, *record, &level);
+      }
       case LibraryKind::Enum:
         return Visit<EnumKind>(*value, *record);
       case LibraryKind::Pointer:
@@ -99,12 +107,13 @@ class JsonWalk {
   // False when the record's function is of another kind than the value (the
   // checked cast of the archive's save function would throw).
   template <class T>
-  [[nodiscard]] bool Visit(Object const& value, RecordMemo::Entry const& record) {
+  [[nodiscard]] bool Visit(Object const& value, RecordMemo::Entry const& record,
+                           NestingGuard const* level = nullptr) {
     if (!value.Is<T>()) {
       return false;
     }
     form.Open(record);
-    if (!Content(static_cast<T const&>(value))) {
+    if (!Content(static_cast<T const&>(value), level)) {
       return false;
     }
     form.Close();
@@ -112,14 +121,17 @@ class JsonWalk {
   }
 
   template <class T>
-  [[nodiscard]] bool Content(Primitive<T, Object> const& primitive) {
+  [[nodiscard]] bool Content(Primitive<T, Object> const& primitive, NestingGuard const*) {
     form.Scalar(primitive.Get());
     return true;
   }
 
-  [[nodiscard]] bool Content(ArrayKind const& array) {
+  [[nodiscard]] bool Content(ArrayKind const& array, NestingGuard const* level) {
     form.OpenArray(array);
     ArrayKind::Objects const& objects = array.GetObjects();
+    if (!objects.empty()) {
+      level->RefuseDeeperChildren();
+    }
     for (std::size_t index = 0; index != objects.size(); ++index) {
       PrefetchAhead(objects, index);
       if (!form.Element(index, [&] { return Value(objects[index].get()); })) {
@@ -130,8 +142,11 @@ class JsonWalk {
     return true;
   }
 
-  [[nodiscard]] bool Content(DictionaryKind const& dictionary) {
+  [[nodiscard]] bool Content(DictionaryKind const& dictionary, NestingGuard const* level) {
     form.OpenDictionary(dictionary);
+    if (!dictionary.Empty()) {
+      level->RefuseDeeperChildren();
+    }
     for (auto const& entry : dictionary.GetProperties()) {
       if (!form.Entry(entry.first, [&] { return Value(entry.second.get()); })) {
         return false;
@@ -141,13 +156,13 @@ class JsonWalk {
     return true;
   }
 
-  [[nodiscard]] bool Content(EnumKind const& enumerator) {
+  [[nodiscard]] bool Content(EnumKind const& enumerator, NestingGuard const*) {
     form.Enumerator(enumerator);
     return true;
   }
 
   template <class T>
-  [[nodiscard]] bool Content(object::Pointer<Object, T> const& pointer) {
+  [[nodiscard]] bool Content(object::Pointer<Object, T> const& pointer, NestingGuard const*) {
     form.Pointer(pointer);
     return true;
   }
