@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "object/detail/json_pointer.hpp"
 #include "object/detail/nesting_guard.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/serialize/detail/kinds.hpp"
@@ -27,7 +28,8 @@ namespace {
 // archive would accept; nothing is then changed.
 class BinaryReader {
  public:
-  BinaryReader(char const* at, char const* end) : at(at), end(end) {}
+  BinaryReader(char const* begin, char const* at, char const* end, Location& failure)
+      : begin(begin), at(at), end(end), failure(failure) {}
 
   [[nodiscard]] bool Value(std::shared_ptr<Object>& object) {
     NestingGuard const level(Nesting::value);
@@ -40,7 +42,7 @@ class BinaryReader {
     if (info == nullptr || !info->GetConstructFunction()) {
       // Only the null id loads as nothing; the archive refuses the others.
       if (id != 0) {
-        return false;
+        return Fail(at - sizeof id);
       }
       object = nullptr;
       return true;
@@ -130,7 +132,13 @@ class BinaryReader {
       return false;
     }
     ArrayKind::Objects objects;
-    if (!Items(objects, [this](std::shared_ptr<Object>& object) { return Value(object); })) {
+    std::size_t index = 0;
+    auto const element = [this, &index](std::shared_ptr<Object>& object) {
+      std::string segment;
+      AppendPointerIndex(segment, index++);
+      return Child(object, segment);
+    };
+    if (!Items(objects, element)) {
       return false;
     }
     LoadedArray loaded{required, objects};
@@ -149,7 +157,12 @@ class BinaryReader {
       // Locals: reading the value may grow the stack.
       std::string key;
       std::shared_ptr<Object> value;
-      if (!Field(key) || !Value(value)) {
+      if (!Field(key)) {
+        return false;
+      }
+      std::string segment;
+      AppendPointerKey(segment, key);
+      if (!Child(value, segment)) {
         return false;
       }
       entries.emplace_back(std::move(key), std::move(value));
@@ -220,10 +233,40 @@ class BinaryReader {
     return true;
   }
 
+  // A child value; a failure inside it puts `segment` in front of its path.
+  [[nodiscard]] bool Child(std::shared_ptr<Object>& object, std::string const& segment) {
+    char const* const start = at;
+    try {
+      if (Value(object)) {
+        return true;
+      }
+    } catch (...) {
+      if (!failure.hasOffset) {
+        Fail(start);
+      }
+      failure.path.insert(0, segment);
+      throw;
+    }
+    if (failure.hasOffset) {
+      failure.path.insert(0, segment);
+    }
+    return false;
+  }
+
+  // Stops at a field the archive refuses too, recording where it starts.
+  bool Fail(char const* field) noexcept {
+    failure.hasOffset = true;
+    failure.offset = static_cast<std::size_t>(field - begin);
+    return false;
+  }
+
   [[nodiscard]] bool Field(bool& value) {
     std::uint8_t byte = 0;
-    if (!Number(byte) || byte > 1) {
+    if (!Number(byte)) {
       return false;
+    }
+    if (byte > 1) {
+      return Fail(at - 1);
     }
     value = byte == 1;
     return true;
@@ -231,8 +274,11 @@ class BinaryReader {
 
   [[nodiscard]] bool Field(std::string& value) {
     std::uint64_t length = 0;
-    if (!Number(length) || length > static_cast<std::uint64_t>(end - at)) {
+    if (!Number(length)) {
       return false;
+    }
+    if (length > static_cast<std::uint64_t>(end - at)) {
+      return Fail(at);
     }
     value.assign(at, static_cast<std::size_t>(length));
     at += length;
@@ -248,15 +294,17 @@ class BinaryReader {
   [[nodiscard]] bool Number(T& value) {
     static_assert(std::is_arithmetic_v<T> && !std::is_same_v<T, bool>);
     if (static_cast<std::size_t>(end - at) < sizeof(T)) {
-      return false;
+      return Fail(at);
     }
     std::memcpy(&value, at, sizeof(T));
     at += sizeof(T);
     return true;
   }
 
+  char const* const begin;  // the endianness byte, offset 0
   char const* at;
   char const* const end;
+  Location& failure;
   // Entries read for the dictionaries being loaded, innermost last.
   std::vector<std::pair<std::string, std::shared_ptr<Object>>> entries;
   RecordMemo records;
@@ -264,11 +312,11 @@ class BinaryReader {
 
 }  // namespace
 
-bool ReadBinary(std::string_view bytes, std::shared_ptr<Object>& value) {
+bool ReadBinary(std::string_view bytes, std::shared_ptr<Object>& value, Location& failure) {
   if (bytes.empty() || static_cast<std::uint8_t>(bytes.front()) != NativeOrderFlag) {
     return false;
   }
-  BinaryReader reader(bytes.data() + 1, bytes.data() + bytes.size());
+  BinaryReader reader(bytes.data(), bytes.data() + 1, bytes.data() + bytes.size(), failure);
   std::shared_ptr<Object> loaded;
   if (!reader.Value(loaded)) {
     return false;

@@ -4,13 +4,19 @@
 #include <ryx/object/serialize/save.hpp>
 
 #include <cstddef>
+#include <optional>
+#include <utility>
 
 #include "object/serialize/detail/handlers.hpp"
 #include "object/serialize/detail/json_numbers.hpp"
 #include "object/serialize/detail/json_reader.hpp"
+#include "object/serialize/detail/locate.hpp"
 #include "object/serialize/detail/json_writer.hpp"
 #include "object/serialize/detail/string_stream.hpp"
 #include "object/serialize/detail/view_stream.hpp"
+
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 
 namespace ryx::object {
 
@@ -46,15 +52,40 @@ std::string Compacted(std::string const& indented) {
   return compact;
 }
 
+// Where `document` stops being JSON, as the archive's parser reads it, or
+// nothing: the archive does not say (it fails at the root), so a failed load
+// parses again to find the place.
+std::optional<std::size_t> SyntaxError(std::string_view document) {
+  rapidjson::Reader reader;
+  rapidjson::MemoryStream in(document.data(), document.size());
+  rapidjson::BaseReaderHandler<> ignore;
+  try {
+    if (reader.Parse(in, ignore)) {
+      return std::nullopt;
+    }
+  } catch (cereal::archive::JsonParseError const&) {
+    return std::nullopt;
+  }
+  return reader.GetErrorOffset();
+}
+
 // The parser is iterative (see <ryx/serialize/archive/json.hpp>), so any depth
 // of nesting only costs memory in proportion to the document; Load refuses
-// values nested deeper than the limit.
+// values nested deeper than the limit, and places any failure by its path.
 std::shared_ptr<Object> LoadThroughArchive(std::string_view document) {
-  detail::ViewStream in(document);
-  cereal::JSONInputArchive archive(in);
-  std::shared_ptr<Object> value;
-  Load(archive, value);
-  return value;
+  try {
+    detail::ViewStream in(document);
+    cereal::JSONInputArchive archive(in);
+    std::shared_ptr<Object> value;
+    Load(archive, value);
+    return value;
+  } catch (...) {
+    Location location;
+    if (std::optional<std::size_t> const offset = SyntaxError(document)) {
+      detail::LocateInText(document, *offset, location);
+    }
+    detail::RethrowLocated(std::move(location));
+  }
 }
 
 }  // namespace
@@ -92,13 +123,20 @@ std::shared_ptr<Object> FromJsonThroughArchive(std::string_view document) {
   return LoadThroughArchive(document);
 }
 
+// The direct reader places a failure by line and column as well as by path:
+// it has the text; the archive only has the values parsed from it.
 std::shared_ptr<Object> FromJson(std::string_view document) {
   detail::CheckJsonNumbers(document);
-  std::shared_ptr<Object> value;
-  if (detail::ReadJson(document, value)) {
-    return value;
+  Location failure;
+  try {
+    std::shared_ptr<Object> value;
+    if (detail::ReadJson(document, value, failure)) {
+      return value;
+    }
+    return LoadThroughArchive(document);
+  } catch (...) {
+    detail::RethrowLocated(std::move(failure));
   }
-  return LoadThroughArchive(document);
 }
 
 }  // namespace ryx::object

@@ -1,8 +1,12 @@
 #include "object/serialize/detail/json_numbers.hpp"
 
+#include <ryx/object/serialize/location.hpp>
 #include <ryx/serialize/archive/json_parse_error.hpp>
 
 #include <cstddef>
+#include <utility>
+
+#include "object/serialize/detail/locate.hpp"
 
 namespace ryx::object::detail {
 
@@ -88,7 +92,11 @@ void CheckJsonNumbers(std::string_view document) {
         ++end;
       }
       if (IsMisread(document.substr(at, end - at))) {
-        throw cereal::archive::JsonParseError("number out of the parser's range");
+        Location location;
+        LocateInText(document, at, location);
+        throw LocatedError<cereal::archive::JsonParseError>(
+            cereal::archive::JsonParseError("number out of the parser's range"),
+            std::move(location));
       }
       at = end - 1;
     }

@@ -12,10 +12,12 @@
 #include <utility>
 #include <vector>
 
+#include "object/detail/json_pointer.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/json_allocator.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/loaded.hpp"
+#include "object/serialize/detail/locate.hpp"
 #include "object/serialize/detail/pending_children.hpp"
 #include "object/serialize/detail/record_memo.hpp"
 
@@ -44,7 +46,9 @@ bool Is(char const* text, SizeType length, char const (&name)[Size]) {
 // returns false, which ends the parse: the archive then reads the document.
 class Builder {
  public:
-  explicit Builder(std::size_t limit) : limit(limit) {}
+  Builder(std::size_t limit, std::string_view text, rapidjson::MemoryStream const& in,
+          Location& failure)
+      : limit(limit), text(text), in(in), failure(failure) {}
 
   bool Done() const noexcept { return done; }
   std::shared_ptr<Object>& Result() noexcept { return root; }
@@ -72,7 +76,7 @@ class Builder {
       case Step::ChildTypes:
         return PushSchema();
       default:
-        return false;
+        return Refuse(in.Tell(), true);
     }
   }
 
@@ -97,7 +101,7 @@ class Builder {
         FinishSchema();
         return true;
       default:
-        return false;
+        return Refuse(BeforeEnd(), false);
     }
   }
 
@@ -122,7 +126,7 @@ class Builder {
         top.step = Step::ChildTypes;
         return true;
       default:
-        return false;
+        return Refuse(in.Tell(), true);
     }
   }
 
@@ -195,17 +199,18 @@ class Builder {
         return TypeRecord(top, std::string_view(text, UpToNul(text, length)));
       case Step::Value:
         if (top.kind != LibraryKind::String) {
-          return false;
+          return Refuse(TokenStart(), true);
         }
         static_cast<object::String&>(*top.made).Set(std::string(text, UpToNul(text, length)));
         top.step = Step::End;
         return true;
       case Step::EntryKey:
+        top.key = children.EntryMark();
         children.AddKey(std::string(text, UpToNul(text, length)));
         top.step = Step::EntryValueName;
         return true;
       default:
-        return false;
+        return Refuse(TokenStart(), true);
     }
   }
 
@@ -263,9 +268,70 @@ class Builder {
     LibraryKind kind = LibraryKind::none;
     std::uint32_t number = 0;  // a schema's, enumerator's or pointer's type
     std::size_t mark = 0;      // where its children start on their stack
+    std::size_t count = 0;     // an array's elements so far
+    std::size_t key = NoKey;   // an entry's key, in `children`
     std::shared_ptr<Object> made;
     registry::Info const* info = nullptr;  // a dictionary's, made last
   };
+
+  static constexpr std::size_t NoKey = static_cast<std::size_t>(-1);
+
+  // Stops at a value the archive refuses too (of the wrong JSON kind, out of
+  // range, too deep) or at a node that ends before its members: the archive
+  // fails there as well, and `failure` says where. Other stops (members in
+  // another order, a type of someone else's) say nothing: the archive may
+  // read on.
+  bool Refuse(std::size_t offset, bool child) {
+    if (!failure.hasOffset) {
+      LocateInText(text, offset, failure);
+      failure.path = Path(child);
+    }
+    return false;
+  }
+
+  // The path of the node on top (with `child`, of the value it is reading):
+  // the index of each array's element and the key of each entry on the way.
+  std::string Path(bool child) const {
+    std::string path;
+    std::size_t const levels = child || frames.empty() ? frames.size() : frames.size() - 1;
+    for (std::size_t level = 0; level != levels; ++level) {
+      Frame const& frame = frames[level];
+      if (frame.step == Step::Objects) {
+        AppendPointerIndex(path, frame.count);
+      } else if (frame.key != NoKey) {
+        AppendPointerKey(path, children.KeyAt(frame.key));
+      }
+    }
+    return path;
+  }
+
+  // Where the token just read starts: a string at its opening quote (every
+  // quote inside one follows an odd number of backslashes), a number or a
+  // literal at its first character.
+  std::size_t TokenStart() const {
+    std::size_t at = in.Tell();
+    if (at != 0 && text[at - 1] == '"') {
+      for (--at; at != 0;) {
+        --at;
+        std::size_t backslashes = 0;
+        while (backslashes < at && text[at - 1 - backslashes] == '\\') {
+          ++backslashes;
+        }
+        if (text[at] == '"' && backslashes % 2 == 0) {
+          return at;
+        }
+      }
+      return 0;
+    }
+    while (at != 0 && std::strchr("0123456789+-.eEtrufalsn", text[at - 1]) != nullptr &&
+           text[at - 1] != '\0') {
+      --at;
+    }
+    return at;
+  }
+
+  // The closing brace just read.
+  std::size_t BeforeEnd() const { return in.Tell() != 0 ? in.Tell() - 1 : 0; }
 
   template <std::size_t Size>
   static bool Expect(Frame& top, char const* text, SizeType length, char const (&name)[Size],
@@ -281,7 +347,7 @@ class Builder {
   // to refuse.
   bool PushValue() {
     if (values == limit) {
-      return false;
+      return Refuse(in.Tell(), true);
     }
     ++values;
     frames.emplace_back(Step::TypenameKey);
@@ -290,7 +356,7 @@ class Builder {
 
   bool PushSchema() {
     if (schemaLevels == limit) {
-      return false;
+      return Refuse(in.Tell(), true);
     }
     ++schemaLevels;
     frames.emplace_back(Step::SchemaTypeName).mark = schemas.size();
@@ -352,13 +418,13 @@ class Builder {
         return true;
       case Step::Value:
         if (!SetPrimitive(top, value)) {
-          return false;
+          return Refuse(TokenStart(), true);
         }
         top.step = Step::End;
         return true;
       case Step::Type:
         if (!value.IsUint()) {
-          return false;
+          return Refuse(TokenStart(), true);
         }
         top.number = value.GetUint();
         if (top.kind == LibraryKind::Enum) {
@@ -375,7 +441,7 @@ class Builder {
         return true;
       case Step::EnumValue: {
         if (!value.IsUint64()) {
-          return false;
+          return Refuse(TokenStart(), true);
         }
         LoadedEnum loaded{top.number, value.GetUint64()};
         static_cast<EnumKind&>(*top.made).Serialize(loaded);
@@ -384,13 +450,13 @@ class Builder {
       }
       case Step::SchemaType:
         if (!value.IsUint()) {
-          return false;
+          return Refuse(TokenStart(), true);
         }
         top.number = value.GetUint();
         top.step = Step::ChildTypesName;
         return true;
       default:
-        return false;
+        return Refuse(TokenStart(), true);
     }
   }
 
@@ -461,6 +527,7 @@ class Builder {
       done = true;
     } else if (frames.back().step == Step::Objects) {
       children.AddElement(std::move(value));
+      ++frames.back().count;
     } else {
       children.SetLastValue(std::move(value));
     }
@@ -501,6 +568,9 @@ class Builder {
   }
 
   std::size_t const limit;
+  std::string_view const text;
+  rapidjson::MemoryStream const& in;
+  Location& failure;
   std::vector<Frame> frames;
   PendingChildren children;
   std::vector<Required> schemas;
@@ -514,14 +584,22 @@ class Builder {
 
 }  // namespace
 
-bool ReadJson(std::string_view document, std::shared_ptr<Object>& value) {
-  Builder builder(GetNestingLimit());
+bool ReadJson(std::string_view document, std::shared_ptr<Object>& value, Location& failure) {
   JsonStackAllocator allocator;
   rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, JsonStackAllocator> reader(
       &allocator);
   rapidjson::MemoryStream in(document.data(), document.size());
+  Builder builder(GetNestingLimit(), document, in, failure);
   try {
-    if (!reader.Parse<rapidjson::kParseDefaultFlags>(in, builder) || !builder.Done()) {
+    if (!reader.Parse<rapidjson::kParseDefaultFlags>(in, builder)) {
+      // Where the text stops being JSON: the archive's parse fails there too.
+      if (reader.GetParseErrorCode() != rapidjson::kParseErrorTermination &&
+          !failure.hasOffset) {
+        LocateInText(document, reader.GetErrorOffset(), failure);
+      }
+      return false;
+    }
+    if (!builder.Done()) {
       return false;
     }
   } catch (cereal::archive::JsonParseError const&) {

@@ -2,6 +2,8 @@
 
 #include <ryx/object/object.hpp>
 #include <ryx/object/option.hpp>
+#include <ryx/object/serialize/detail/load_trail.hpp>
+#include <ryx/object/serialize/location.hpp>
 
 #include <boost/utility/string_view.hpp>
 
@@ -10,12 +12,14 @@
 #include <string>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 #include "object/detail/registry_cache.hpp"
 #include "object/detail/type_name.hpp"
 #include "object/serialize/detail/archives.hpp"
 #include "object/serialize/detail/binary_fields.hpp"
 #include "object/detail/nesting_guard.hpp"
+#include "object/serialize/detail/locate.hpp"
 
 namespace ryx::object {
 
@@ -64,10 +68,9 @@ template <class Archive>
   }
 }
 
-}  // namespace
-
+// One value, once the outermost Load set up the trail.
 template <class Archive>
-void Load(Archive& archive, std::shared_ptr<Object>& object) {
+void LoadValue(Archive& archive, std::shared_ptr<Object>& object) {
   detail::NestingGuard const level(detail::Nesting::value);
   hash::MurmurThree32 const id = ReadTypeId(archive);
   detail::CachedRecord const* const record = detail::FindCachedRecord(id);
@@ -88,6 +91,31 @@ void Load(Archive& archive, std::shared_ptr<Object>& object) {
   (*load)(*made, archive);
   made->GetOptions().Clear(Option::deserializing);
   object = std::move(made);
+}
+
+// The outermost Load keeps the trail of the values it enters, and a failure
+// leaves with the path of the value that failed.
+template <class Archive>
+[[gnu::noinline]] void LoadOutermost(Archive& archive, std::shared_ptr<Object>& object) {
+  detail::LoadTrail trail;
+  try {
+    LoadValue(archive, object);
+  } catch (...) {
+    Location location;
+    location.path = trail.FailedPath();
+    detail::RethrowLocated(std::move(location));
+  }
+}
+
+}  // namespace
+
+template <class Archive>
+void Load(Archive& archive, std::shared_ptr<Object>& object) {
+  if (detail::LoadTrail::Current() == nullptr) {
+    LoadOutermost(archive, object);
+  } else {
+    LoadValue(archive, object);
+  }
 }
 
 template void Load(cereal::XMLInputArchive&, std::shared_ptr<Object>&);

@@ -22,6 +22,7 @@
 #include <ryx/object/record/member_kind.hpp>
 #include <ryx/object/serialize/detail/binary_fields.hpp>
 #include <ryx/object/serialize/detail/xml_text.hpp>
+#include <ryx/object/serialize/detail/load_trail.hpp>
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/save.hpp>
 #include <ryx/serialize/archive/json.hpp>
@@ -143,10 +144,16 @@ void SaveMember(Archive& archive, char const* name, V const& value) {
 
 template <class Archive, class V>
 void LoadMember(Archive& archive, char const* name, V& value) {
-  if constexpr (IsBinary<Archive>) {
+  if constexpr (IsChild<V>) {
+    // A failure inside the child names the member in its path.
+    object::detail::TrailStep const step{std::string(name)};
+    if constexpr (IsBinary<Archive>) {
+      ReadBinary(archive, value);
+    } else {
+      archive(cereal::make_nvp(name, LoadedChild{value}));
+    }
+  } else if constexpr (IsBinary<Archive>) {
     ReadBinary(archive, value);
-  } else if constexpr (IsChild<V>) {
-    archive(cereal::make_nvp(name, LoadedChild{value}));
   } else {
     archive(cereal::make_nvp(name, value));
   }

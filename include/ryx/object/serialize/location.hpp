@@ -56,12 +56,17 @@ class RYX_OBJECT_EXPORT Located {
 // failure of the same type and message as elsewhere knows its place, so that
 // handlers of Error catch it unchanged.
 template <class Error>
-class LocatedError final : public Error, public Located {
+class RYX_OBJECT_EXPORT LocatedError final : public Error, public Located {
  public:
   LocatedError(Error const& error, Location location) : Error(error), Located(std::move(location)) {}
 };
 
 // The location `error` carries, or null when it carries none.
 RYX_OBJECT_EXPORT Location const* FindLocation(std::exception const& error) noexcept;
+
+// The location in words: "line 3, column 12, at /sizes/1", "byte 17, at
+// /sizes/1", "at /sizes/1", or "" for none (the value itself, with no place
+// in a document).
+RYX_OBJECT_EXPORT std::string FormatLocation(Location const& location);
 
 }  // namespace ryx::object

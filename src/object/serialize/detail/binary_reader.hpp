@@ -8,6 +8,7 @@
 #pragma once
 
 #include <ryx/object/fwd.hpp>
+#include <ryx/object/serialize/location.hpp>
 
 #include <memory>
 #include <string_view>
@@ -21,6 +22,10 @@ namespace ryx::object::detail {
 // load function is not the library's own. The archive then reads the stream,
 // and reports the error if there is one. Throws NestingLimitError,
 // std::bad_alloc, and what construct functions and Set throw.
-bool ReadBinary(std::string_view bytes, std::shared_ptr<Object>& value);
+//
+// When it stops for a field the archive refuses too, or throws, it sets
+// `failure` to where: the offset of that field (or of the value that threw)
+// and the path of the value holding it.
+bool ReadBinary(std::string_view bytes, std::shared_ptr<Object>& value, Location& failure);
 
 }  // namespace ryx::object::detail

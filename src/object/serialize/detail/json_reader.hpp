@@ -10,6 +10,7 @@
 #pragma once
 
 #include <ryx/object/fwd.hpp>
+#include <ryx/object/serialize/location.hpp>
 
 #include <memory>
 #include <string_view>
@@ -23,6 +24,11 @@ namespace ryx::object::detail {
 // nested deeper than the limit. The archive then decides, and reports the
 // error if there is one. Throws std::bad_alloc, and what construct functions
 // and Set throw.
-bool ReadJson(std::string_view document, std::shared_ptr<Object>& value);
+//
+// When it stops where the archive fails too (text that is not JSON, a value
+// of the wrong JSON kind or range, a node without a member it needs, nesting
+// past the limit), it sets `failure` to where: the line, column and offset,
+// and the path of the value at fault.
+bool ReadJson(std::string_view document, std::shared_ptr<Object>& value, Location& failure);
 
 }  // namespace ryx::object::detail

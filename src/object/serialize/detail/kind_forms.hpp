@@ -21,6 +21,7 @@
 #include <ryx/object/dictionary.hpp>
 #include <ryx/object/enum.hpp>
 #include <ryx/object/pointer.hpp>
+#include <ryx/object/serialize/detail/load_trail.hpp>
 #include <ryx/object/serialize/load.hpp>
 #include <ryx/object/serialize/required.hpp>
 #include <ryx/object/serialize/save.hpp>
@@ -94,8 +95,9 @@ struct LoadedNodes {
     cereal::size_type count = 0;
     archive(cereal::make_size_tag(count));
     objects.resize(static_cast<std::size_t>(count));
-    for (std::shared_ptr<Object>& object : objects) {
-      archive(LoadedNode{object});
+    for (std::size_t index = 0; index != objects.size(); ++index) {
+      TrailStep const step(index);
+      archive(LoadedNode{objects[index]});
     }
   }
 };
@@ -154,6 +156,7 @@ struct LoadedEntries {
     template <class Archive>
     void load(Archive& archive) {
       OutOfLine([&] { archive(cereal::make_nvp("key", key)); });
+      TrailStep const step(key);
       archive(cereal::make_nvp("value", LoadedNode{value}));
     }
   };
@@ -182,8 +185,12 @@ inline void SaveBinaryEntries(cereal::PortableBinaryOutputArchive& archive,
 
 inline std::vector<std::shared_ptr<Object>> LoadBinaryNodes(
     cereal::PortableBinaryInputArchive& archive) {
-  return ReadItems<std::shared_ptr<Object>>(
-      archive, [](auto& in, std::shared_ptr<Object>& object) { Load(in, object); });
+  std::size_t index = 0;
+  return ReadItems<std::shared_ptr<Object>>(archive,
+                                            [&index](auto& in, std::shared_ptr<Object>& object) {
+                                              TrailStep const step(index++);
+                                              Load(in, object);
+                                            });
 }
 
 inline Properties LoadBinaryEntries(cereal::PortableBinaryInputArchive& archive) {
@@ -193,7 +200,10 @@ inline Properties LoadBinaryEntries(cereal::PortableBinaryInputArchive& archive)
   for (std::uint64_t index = 0; index != count; ++index) {
     std::string key = ReadString(archive);
     std::shared_ptr<Object> value;
-    Load(archive, value);
+    {
+      TrailStep const step(key);
+      Load(archive, value);
+    }
     OutOfLine([&] { properties.try_emplace(std::move(key), std::move(value)); });
   }
   return properties;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <climits>
+#include <cstddef>
 #include <cstring>
 #include <istream>
 #include <streambuf>
@@ -17,6 +18,9 @@ class ViewBuffer : public std::streambuf {
     char* const begin = const_cast<char*>(bytes.data());
     setg(begin, begin, begin + bytes.size());
   }
+
+  // The bytes read so far.
+  std::size_t Position() const noexcept { return static_cast<std::size_t>(gptr() - eback()); }
 
  protected:
   // One copy instead of the base class's character loop: the binary form
@@ -41,6 +45,8 @@ class ViewStream : private ViewBuffer, public std::istream {
  public:
   explicit ViewStream(std::string_view bytes)
       : ViewBuffer(bytes), std::istream(static_cast<ViewBuffer*>(this)) {}
+
+  using ViewBuffer::Position;
 };
 
 }  // namespace ryx::object::detail
