@@ -38,6 +38,9 @@ static void DocumentsLoadBackInEveryFormAndTheNullRecordAsNull(void) {
 // The bad document holds NULs: only its size tells where it ends.
 static void FailuresAreReportedLeavingTheOutputs(void) {
   static char unwritten[] = "unwritten";
+  static char const badArray[] =
+      "{\"typename\": \"ryx.object.Array\", \"required\": {\"type\": 0, \"child_types\": []},\n"
+      "\"objects\": [{\"typename\": \"ryx.object.Int32\", \"value\": \"x\"}]}";
   RyxObject* const unregistered = MakeUnregisteredValue();
   RyxObject* loaded = unregistered;
   char* data = unwritten;
@@ -47,8 +50,13 @@ static void FailuresAreReportedLeavingTheOutputs(void) {
   CHECK_FAILS(RyxObjectStatusInvalidParameter, "the form parameter was not a RYX form: -1",
               RyxObjectLoad, (RyxObjectForm)-1, "{}", 2, &loaded);
   CHECK_FAILS(RyxObjectStatusFailure,
-              "failed to load the RYX object: Failed to read 4 bytes from input stream! Read 2",
+              "failed to load the RYX object: Failed to read 4 bytes from input stream! Read 2 "
+              "(byte 1)",
               RyxObjectLoad, RyxObjectFormBinary, "\1\0\0", 3, &loaded);
+  CHECK_FAILS(RyxObjectStatusFailure,
+              "failed to load the RYX object: JSON parse error: data_.f.flags & kIntFlag "
+              "(line 2, column 55, at /0)",
+              RyxObjectLoad, RyxObjectFormJson, badArray, strlen(badArray), &loaded);
   CHECK_FAILS(RyxObjectStatusFailure,
               "failed to save the RYX object: The class has not been registered: "
               "(anonymous namespace)::Unregistered",

@@ -54,4 +54,40 @@ TEST(BinaryForm, FailsAtOnceOnAStringOrSchemaClaimingAHugeLength) {
   EXPECT_EQ(schema, Required(Object::TypeIdOf<Int32>()));
 }
 
+// The direct reader places a failure at the field it could not read, the
+// archive where it stopped reading; both name the value's path. The stream
+// is [Int32 7, {"name": String "abc"}]: the string's bytes start at 69.
+TEST(BinaryForm, AFailedLoadSaysWhichFieldOfWhichValue) {
+  std::string const bytes = ToBinary(test::Example());
+  ASSERT_EQ(bytes.size(), 84u);
+  std::string const cut = bytes.substr(0, 70);
+  std::string unregistered = bytes;
+  unregistered.replace(33, 4, Bytes<std::uint32_t>(12345u));
+  struct Case {
+    std::string bytes;
+    std::shared_ptr<Object> (*read)(std::string_view);
+    std::size_t offset;
+    char const* path;
+  };
+  Case const cases[] = {
+      {cut, FromBinary, 69, "/1/name"},
+      {cut, FromBinaryThroughArchive, 70, "/1/name"},
+      {unregistered, FromBinary, 33, "/1"},
+      {unregistered, FromBinaryThroughArchive, 37, "/1"},
+  };
+  for (Case const& c : cases) {
+    try {
+      c.read(c.bytes);
+      ADD_FAILURE() << "loaded";
+    } catch (std::runtime_error const& error) {
+      Location const* const location = FindLocation(error);
+      ASSERT_NE(location, nullptr) << error.what();
+      EXPECT_TRUE(location->hasOffset);
+      EXPECT_EQ(location->line, 0u);
+      EXPECT_EQ(location->offset, c.offset) << error.what();
+      EXPECT_EQ(location->path, c.path) << error.what();
+    }
+  }
+}
+
 }  // namespace

@@ -1,8 +1,10 @@
 // What the JSON reader accepts and refuses.
 #include "serialize/box.hpp"
+#include "support.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -10,6 +12,8 @@ namespace {
 
 using namespace ryx::object;
 using test::Valued;
+using ryx::object::testing::MakeBool;
+using ryx::object::testing::MakeInt;
 
 // What FromJson makes of a document: the value, written compact, or the
 // failed check it is refused with.
@@ -75,6 +79,102 @@ TEST(JsonForm, RefusesNumbersThatTheNumberParserWouldMisread) {
   // Inside strings digits are text.
   EXPECT_EQ(Read(Valued("ryx.object.String", R"("0e-300")")),
             Valued("ryx.object.String", R"("0e-300")"));
+}
+
+// The line and column of `offset` in `text`, counted from 1.
+std::pair<std::size_t, std::size_t> LineAndColumn(std::string const& text, std::size_t offset) {
+  std::size_t const lineStart = text.rfind('\n', offset - 1);
+  std::size_t const line = 1 + static_cast<std::size_t>(
+                                   std::count(text.begin(), text.begin() + offset, '\n'));
+  return {line, lineStart == std::string::npos ? offset + 1 : offset - lineStart};
+}
+
+// A mistake planted in one value of documents of several shapes, in both
+// layouts, is reported at that value: its line, column and offset from the
+// direct reader, its path from either reader, with the message unchanged.
+TEST(JsonForm, AFailedLoadSaysWhereTheValueAtFaultIs) {
+  using Objects = Array<Object>::Objects;
+  using Properties = Dictionary<Object>::Properties;
+  auto const marked = [] { return std::make_shared<Int32>(424242); };
+  std::pair<std::shared_ptr<Object>, std::string> const shapes[] = {
+      {marked(), ""},
+      {std::make_shared<Array<Object>>(Objects{MakeInt(1), MakeInt(2), marked()}), "/2"},
+      {std::make_shared<Dictionary<Object>>(Properties{
+           {"a/b", std::make_shared<Array<Object>>(Objects{MakeBool(true), marked()})},
+           {"other", test::Example()}}),
+       "/a~1b/1"},
+      {std::make_shared<Array<Object>>(Objects{test::Example(),
+           std::make_shared<Dictionary<Object>>(Properties{{"k", marked()}})}),
+       "/1/k"},
+  };
+  for (auto const& [value, path] : shapes) {
+    for (JsonLayout const layout : {JsonLayout::Indented, JsonLayout::Compact}) {
+      std::string document = ToJson(value, layout);
+      std::size_t const offset = document.find("424242");
+      document.replace(offset, 6, "\"x\"");
+      SCOPED_TRACE(document);
+      try {
+        FromJson(document);
+        ADD_FAILURE() << "loaded";
+      } catch (cereal::archive::JsonParseError const& error) {
+        EXPECT_STREQ(error.what(), "JSON parse error: data_.f.flags & kIntFlag");
+        Location const* const location = FindLocation(error);
+        ASSERT_NE(location, nullptr);
+        EXPECT_EQ(location->path, path);
+        EXPECT_TRUE(location->hasOffset);
+        EXPECT_EQ(location->offset, offset);
+        EXPECT_EQ(std::make_pair(location->line, location->column),
+                  LineAndColumn(document, offset));
+      }
+      // The archive has no text to count in, only the values.
+      try {
+        FromJsonThroughArchive(document);
+        ADD_FAILURE() << "loaded";
+      } catch (cereal::archive::JsonParseError const& error) {
+        ASSERT_NE(FindLocation(error), nullptr);
+        EXPECT_EQ(FindLocation(error)->path, path);
+        EXPECT_FALSE(FindLocation(error)->hasOffset);
+      }
+    }
+  }
+}
+
+// Both readers find where text stops being JSON; a misread number and a
+// missing member are placed too.
+TEST(JsonForm, AFailedLoadOfBrokenTextSaysWhereItBreaks) {
+  std::string const document = ToJson(test::Example());
+  std::string const cut = document.substr(0, document.size() - 1);
+  for (auto read : {FromJson, FromJsonThroughArchive}) {
+    try {
+      read(cut);
+      ADD_FAILURE() << "loaded";
+    } catch (cereal::archive::JsonParseError const& error) {
+      EXPECT_STREQ(error.what(), "JSON parse error: IsObject()");
+      ASSERT_NE(FindLocation(error), nullptr);
+      EXPECT_EQ(FindLocation(error)->offset, cut.size());
+    }
+  }
+  std::string const misread = "{\"typename\": \"ryx.object.Double\",\n \"value\": 0e-300}";
+  Location const* location = nullptr;
+  try {
+    FromJson(misread);
+  } catch (cereal::archive::JsonParseError const& error) {
+    location = FindLocation(error);
+    ASSERT_NE(location, nullptr);
+    EXPECT_EQ(std::make_pair(location->line, location->column), std::make_pair(2ul, 11ul));
+  }
+  EXPECT_NE(location, nullptr);
+  std::string const nested =
+      R"({"typename":"ryx.object.Array","required":{"type":0,"child_types":[]},"objects":[)" +
+      std::string(R"({"typename":"ryx.object.Int8"})") + "]}";
+  try {
+    FromJson(nested);
+    ADD_FAILURE() << "loaded";
+  } catch (cereal::Exception const& error) {
+    ASSERT_NE(FindLocation(error), nullptr);
+    EXPECT_EQ(FindLocation(error)->path, "/0");
+    EXPECT_EQ(FindLocation(error)->offset, nested.size() - 3);
+  }
 }
 
 }  // namespace

@@ -115,12 +115,21 @@ printf '<cereal><typename>ryx.object.Int32</typename><value>seven</value></cerea
 printf 'hello' >bad.text
 for bad in cut.bin bad.json bad.xml bad.text; do
   expect 1 "check $bad" "$tool" check "$bad"
-  grep -q "^ryx-object: $bad: " err || fail "check $bad: the message names the file"
+  grep -q "^ryx-object: $bad[: ]" err || fail "check $bad: the message names the file"
   expect 1 "convert $bad" "$tool" convert --to json "$bad"
   "$tool" check --quiet "$bad" >out 2>err
   [ $? -eq 1 ] && [ ! -s out ] && [ ! -s err ] && passed=$((passed + 1)) ||
     fail "check --quiet $bad: status 1 and no output"
 done
+
+# A failed load is placed as compilers place errors: FILE:LINE:COLUMN for
+# text, FILE: byte N for binary, with the path of the value at fault.
+printf '{"typename": "ryx.object.Array", "required": {"type": 0, "child_types": []},\n "objects": [{"typename": "ryx.object.Int8", "value": 1},\n  {"typename": "ryx.object.Int8", "value": "x"}]}' >second.json
+expect 1 "a bad second element" "$tool" check second.json
+grep -qx 'ryx-object: second.json:3:44: JSON parse error: data_.f.flags & kIntFlag (at /1)' err ||
+  fail "the bad element is placed by line, column and path"
+expect 1 "a cut binary document" "$tool" check cut.bin
+grep -q '^ryx-object: cut.bin: byte [0-9]*: Failed to read' err || fail "a binary failure is placed by byte"
 
 # Plain JSON: written and read with --to plain / --from plain, typed by
 # --schema; a typed load of plain JSON says --from plain exists.
@@ -133,7 +142,7 @@ expect 0 "convert plain JSON under a schema" "$tool" convert --from plain \
   --schema 'Dictionary<Array<Int32>>' --to json --compact sizes.json
 grep -q '"typename":"ryx.object.Int32","value":2' out || fail "the schema's kinds are read"
 expect 1 "plain JSON that does not conform" "$tool" check --from plain --schema 'Dictionary<String>' plain.json
-grep -q '^ryx-object: plain.json: line 1, column 29, at /sizes: expected ryx.object.String, found an array$' err ||
+grep -q '^ryx-object: plain.json:1:29: expected ryx.object.String, found an array (at /sizes)$' err ||
   fail "the non-conforming member is named by line, column and path"
 for plain in '{"sizes": [1, 2]}' '[1, 2]'; do
   printf '%s' "$plain" >untyped.json

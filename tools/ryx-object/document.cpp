@@ -5,6 +5,7 @@
 
 #include <ryx/object/dictionary.hpp>
 #include <ryx/object/required_text.hpp>
+#include <ryx/object/serialize/location.hpp>
 #include <ryx/object/serialize/plain_json.hpp>
 #include <ryx/object/string.hpp>
 
@@ -42,6 +43,26 @@ bool IsPlainJson(std::string_view bytes) noexcept {
   } catch (...) {
     return false;
   }
+}
+
+// "FILE:LINE:COLUMN: message" for a failure in a text document, "FILE: byte
+// N: message" in a binary one, as compilers and editors expect them, with
+// the path of the value at fault at the end.
+std::string Placed(std::string const& path, std::exception const& error) {
+  std::string placed = DisplayName(path);
+  auto const* const plain = dynamic_cast<PlainJsonError const*>(&error);
+  std::string message = plain != nullptr ? plain->GetReason() : error.what();
+  if (Location const* const location = FindLocation(error)) {
+    if (location->hasOffset && location->line != 0) {
+      placed += ":" + std::to_string(location->line) + ":" + std::to_string(location->column);
+    } else if (location->hasOffset) {
+      placed += ": byte " + std::to_string(location->offset);
+    }
+    if (!location->path.empty()) {
+      message += " (at " + location->path + ")";
+    }
+  }
+  return placed + ": " + message;
 }
 
 constexpr char const* PlainHint = " (the document is JSON without type names: read it with --from plain)";
@@ -94,7 +115,7 @@ std::shared_ptr<Object> LoadDocument(DocumentOptions const& options) {
     return Load(*form, input.Bytes(), schema);
   } catch (std::exception const& e) {
     bool const hint = *form == Form::Json && IsPlainJson(input.Bytes());
-    throw std::runtime_error(DisplayName(options.path) + ": " + e.what() + (hint ? PlainHint : ""));
+    throw std::runtime_error(Placed(options.path, e) + (hint ? PlainHint : ""));
   }
 }
 

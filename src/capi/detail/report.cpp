@@ -2,7 +2,11 @@
 
 #include "object/detail/type_name.hpp"
 
+#include <ryx/object/serialize/location.hpp>
+#include <ryx/object/serialize/plain_json.hpp>
+
 #include <exception>
+#include <string>
 
 namespace ryx::object::capi::detail {
 
@@ -23,6 +27,19 @@ void ReportCurrentException(char const* function, char const* action) noexcept {
   try {
     throw;
   } catch (std::exception const& e) {
+    // Where a document failed, unless the message says so itself.
+    Location const* const location = FindLocation(e);
+    if (location != nullptr && dynamic_cast<PlainJsonError const*>(&e) == nullptr) {
+      try {
+        std::string const where = FormatLocation(*location);
+        if (!where.empty()) {
+          Report("%0%: %1%: %2% (%3%)", function, action, e.what(), where);
+          return;
+        }
+      } catch (...) {
+        // No memory for the place: the message alone.
+      }
+    }
     Report("%0%: %1%: %2%", function, action, e.what());
   } catch (...) {
     Report("%0%: %1%: generic exception object", function, action);

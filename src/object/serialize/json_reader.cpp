@@ -101,7 +101,7 @@ class Builder {
         FinishSchema();
         return true;
       default:
-        return Refuse(BeforeEnd(), false);
+        return Refuse(in.Tell(), false);  // the brace, not taken yet
     }
   }
 
@@ -329,9 +329,6 @@ class Builder {
     }
     return at;
   }
-
-  // The closing brace just read.
-  std::size_t BeforeEnd() const { return in.Tell() != 0 ? in.Tell() - 1 : 0; }
 
   template <std::size_t Size>
   static bool Expect(Frame& top, char const* text, SizeType length, char const (&name)[Size],
