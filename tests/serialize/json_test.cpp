@@ -90,8 +90,8 @@ std::pair<std::size_t, std::size_t> LineAndColumn(std::string const& text, std::
 }
 
 // A mistake planted in one value of documents of several shapes, in both
-// layouts, is reported at that value: its line, column and offset from the
-// direct reader, its path from either reader, with the message unchanged.
+// layouts, is reported at that value, with the message unchanged: the direct
+// reader places the member at fault, the archive path the value's node.
 TEST(JsonForm, AFailedLoadSaysWhereTheValueAtFaultIs) {
   using Objects = Array<Object>::Objects;
   using Properties = Dictionary<Object>::Properties;
@@ -126,14 +126,15 @@ TEST(JsonForm, AFailedLoadSaysWhereTheValueAtFaultIs) {
         EXPECT_EQ(std::make_pair(location->line, location->column),
                   LineAndColumn(document, offset));
       }
-      // The archive has no text to count in, only the values.
+      // The archive knows only the values: the value's node is found by its
+      // path.
       try {
         FromJsonThroughArchive(document);
         ADD_FAILURE() << "loaded";
       } catch (cereal::archive::JsonParseError const& error) {
         ASSERT_NE(FindLocation(error), nullptr);
         EXPECT_EQ(FindLocation(error)->path, path);
-        EXPECT_FALSE(FindLocation(error)->hasOffset);
+        EXPECT_EQ(FindLocation(error)->offset, document.rfind('{', offset));
       }
     }
   }
@@ -174,6 +175,20 @@ TEST(JsonForm, AFailedLoadOfBrokenTextSaysWhereItBreaks) {
     ASSERT_NE(FindLocation(error), nullptr);
     EXPECT_EQ(FindLocation(error)->path, "/0");
     EXPECT_EQ(FindLocation(error)->offset, nested.size() - 3);
+  }
+  // A member the direct reader does not know leaves the document to the
+  // archive, whose failure is placed at the value's node.
+  std::string misspelled = ToJson(test::Example());
+  std::size_t const element = misspelled.find("{", misspelled.find("\"objects\""));
+  misspelled.replace(misspelled.find("\"value\"", element), 7, "\"valeu\"");
+  try {
+    FromJson(misspelled);
+    ADD_FAILURE() << "loaded";
+  } catch (cereal::Exception const& error) {
+    EXPECT_STREQ(error.what(), "JSON Parsing failed - provided NVP (value) not found");
+    ASSERT_NE(FindLocation(error), nullptr);
+    EXPECT_EQ(FindLocation(error)->path, "/0");
+    EXPECT_EQ(FindLocation(error)->offset, element);
   }
 }
 

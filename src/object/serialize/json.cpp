@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "object/serialize/detail/handlers.hpp"
+#include "object/serialize/detail/json_location.hpp"
 #include "object/serialize/detail/json_numbers.hpp"
 #include "object/serialize/detail/json_reader.hpp"
 #include "object/serialize/detail/locate.hpp"
@@ -69,6 +70,18 @@ std::optional<std::size_t> SyntaxError(std::string_view document) {
   return reader.GetErrorOffset();
 }
 
+// The path the exception being handled carries. Call only in a catch block.
+std::string FailedPath() {
+  try {
+    throw;
+  } catch (std::exception const& error) {
+    Location const* const location = FindLocation(error);
+    return location != nullptr ? location->path : std::string();
+  } catch (...) {
+    return std::string();
+  }
+}
+
 // The parser is iterative (see <ryx/serialize/archive/json.hpp>), so any depth
 // of nesting only costs memory in proportion to the document; Load refuses
 // values nested deeper than the limit, and places any failure by its path.
@@ -81,7 +94,12 @@ std::shared_ptr<Object> LoadThroughArchive(std::string_view document) {
     return value;
   } catch (...) {
     Location location;
-    if (std::optional<std::size_t> const offset = SyntaxError(document)) {
+    std::optional<std::size_t> offset = SyntaxError(document);
+    if (!offset) {
+      // Load placed the failure by the value's path: find that value's text.
+      offset = detail::FindJsonValue(document, FailedPath());
+    }
+    if (offset) {
       detail::LocateInText(document, *offset, location);
     }
     detail::RethrowLocated(std::move(location));

@@ -162,7 +162,9 @@ class Builder {
       case Step::Skip:
         return true;
       case Step::TypenameKey:
-        return Expect(top, text, length, "typename", Step::TypenameValue);
+        // As Load: the first member is the type record, whatever its name.
+        top.step = Step::TypenameValue;
+        return true;
       case Step::ValueKey:
         return Expect(top, text, length, "value",
                       top.kind == LibraryKind::Enum ? Step::EnumValue : Step::Value);
