@@ -61,6 +61,7 @@ def main(argv):
         return per_record_ns(runs[name])
 
     floor = ns("RapidJson/ParseOurText/Compact") + ns("BuildAndRelease")
+    plain_floor = ns("RapidJson/ParsePlainText") + ns("BuildAndRelease")
     indented_floor = ns("RapidJson/ParseOurText/Indented") + ns("BuildAndRelease")
     # (what, ours, yardstick, ratio, target, met)
     targets = [
@@ -86,6 +87,16 @@ def main(argv):
          lambda r: r < 1),
         ("ToBinary / nlohmann to_cbor", ns("ToBinary"), ns("Nlohmann/ToCbor"), "< 1×",
          lambda r: r < 1),
+        ("FromPlainJson / nlohmann parse", ns("FromPlainJson"), ns("Nlohmann/Parse"), "≤ 1×",
+         lambda r: r <= 1),
+        ("FromPlainJson, records' schema / nlohmann parse", ns("FromPlainJson/Schema"),
+         ns("Nlohmann/Parse"), "≤ 1×", lambda r: r <= 1),
+        ("FromPlainJson / (rapidjson Parse of plain text + BuildAndRelease)",
+         ns("FromPlainJson"), plain_floor, "≤ 1.2×", lambda r: r <= 1.2),
+        ("FromPlainJson, records' schema / (rapidjson Parse + BuildAndRelease)",
+         ns("FromPlainJson/Schema"), plain_floor, "≤ 1.2×", lambda r: r <= 1.2),
+        ("ToPlainJson compact / nlohmann dump", ns("ToPlainJson/Compact"), ns("Nlohmann/Dump"),
+         "≤ 1×", lambda r: r <= 1),
     ]
     print("\n| Ratio | ns per record | ratio | target | met |")
     print("|---|---|---|---|---|")

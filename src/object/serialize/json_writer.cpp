@@ -171,16 +171,8 @@ bool Write(Object const* value, Writer& writer) {
 
 bool WriteJson(Object const* value, JsonLayout layout, std::string& text) {
   StringOutput out;
-  JsonStackAllocator allocator;
-  bool written = false;
-  if (layout == JsonLayout::Indented) {
-    IndentedJsonWriter writer(out, &allocator);
-    writer.SetIndent(JsonIndentChar, JsonIndentLength);
-    written = Write(value, writer);
-  } else {
-    CompactJsonWriter writer(out, &allocator);
-    written = Write(value, writer);
-  }
+  bool const written =
+      WithJsonWriter(layout, out, [value](auto& writer) { return Write(value, writer); });
   if (written) {
     text = out.Take();
   }

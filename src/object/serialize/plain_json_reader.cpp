@@ -32,7 +32,6 @@ namespace ryx::object::detail {
 
 namespace {
 
-using Make = PlainPlan::Make;
 using rapidjson::SizeType;
 
 // Strict JSON: no comments, trailing commas, NaN or infinities. Numbers come
@@ -150,31 +149,6 @@ bool ReadReal(std::string_view number, T& value) {
   return error == std::errc() && end == number.data() + number.size();
 }
 
-char const* TypeName(Make make) {
-  switch (make) {
-    case Make::Int8:
-      return "ryx.object.Int8";
-    case Make::Int16:
-      return "ryx.object.Int16";
-    case Make::Int32:
-      return "ryx.object.Int32";
-    case Make::Int64:
-      return "ryx.object.Int64";
-    case Make::UInt8:
-      return "ryx.object.UInt8";
-    case Make::UInt16:
-      return "ryx.object.UInt16";
-    case Make::UInt32:
-      return "ryx.object.UInt32";
-    case Make::UInt64:
-      return "ryx.object.UInt64";
-    case Make::Float:
-      return "ryx.object.Float";
-    default:
-      return "ryx.object.Double";
-  }
-}
-
 // The SAX handler. Each value event finds the plan of the value it starts
 // (Next), makes the value or opens its container, and hands the finished
 // value to whatever holds it (Finish). Anything the plan refuses throws
@@ -199,7 +173,7 @@ class Builder {
   bool Bool(bool value) {
     Token(TokenKind::Literal, value ? 4 : 5);
     PlainPlan const& plan = Next();
-    if (plan.make != Make::Bool && !Decides(plan)) {
+    if (plan.make != LibraryKind::Bool && !Decides(plan)) {
       Refuse(plan, value ? "true" : "false");
     }
     Finish(std::make_shared<object::Bool>(value), Converter(plan));
@@ -211,29 +185,29 @@ class Builder {
     std::string_view const number(digits, length);
     PlainPlan const& plan = Next();
     switch (plan.make) {
-      case Make::Any:
-      case Make::Own:
+      case LibraryKind::none:
+      case LibraryKind::other:
         Finish(Untyped(number), Converter(plan));
         return true;
-      case Make::Int8:
+      case LibraryKind::Int8:
         return Whole<object::Int8>(plan, number);
-      case Make::Int16:
+      case LibraryKind::Int16:
         return Whole<object::Int16>(plan, number);
-      case Make::Int32:
+      case LibraryKind::Int32:
         return Whole<object::Int32>(plan, number);
-      case Make::Int64:
+      case LibraryKind::Int64:
         return Whole<object::Int64>(plan, number);
-      case Make::UInt8:
+      case LibraryKind::UInt8:
         return Whole<object::UInt8>(plan, number);
-      case Make::UInt16:
+      case LibraryKind::UInt16:
         return Whole<object::UInt16>(plan, number);
-      case Make::UInt32:
+      case LibraryKind::UInt32:
         return Whole<object::UInt32>(plan, number);
-      case Make::UInt64:
+      case LibraryKind::UInt64:
         return Whole<object::UInt64>(plan, number);
-      case Make::Float:
+      case LibraryKind::Float:
         return Real<object::Float>(plan, number);
-      case Make::Double:
+      case LibraryKind::Double:
         return Real<object::Double>(plan, number);
       default:
         Refuse(plan, "the number " + Shown(number));
@@ -245,7 +219,7 @@ class Builder {
     std::string_view const string(characters, length);
     PlainPlan const& plan = Next();
     CheckUtf8(string, "the string");
-    if (plan.make != Make::String && !Decides(plan)) {
+    if (plan.make != LibraryKind::String && !Decides(plan)) {
       Refuse(plan, "a string");
     }
     Finish(std::make_shared<object::String>(std::string(string)), Converter(plan));
@@ -361,15 +335,15 @@ class Builder {
   // Whether the JSON decides what a value becomes: without a schema, in a
   // container the schema leaves open, and inside a type of the user's own.
   static bool Decides(PlainPlan const& plan) noexcept {
-    return plan.make == Make::Any || plan.make == Make::Own;
+    return plan.make == LibraryKind::none || plan.make == LibraryKind::other;
   }
 
   static PlainPlan const* Converter(PlainPlan const& plan) noexcept {
-    return plan.make == Make::Own ? &plan : nullptr;
+    return plan.make == LibraryKind::other ? &plan : nullptr;
   }
 
   static Required ElementSchema(PlainPlan const& plan) {
-    return plan.make == Make::Any ? Required() : plan.elementSchema;
+    return plan.make == LibraryKind::none ? Required() : plan.elementSchema;
   }
 
   // The plan of the value starting now.
@@ -386,7 +360,7 @@ class Builder {
     }
     Frame const& top = frames.back();
     PlainPlan const& plan = *top.plan;
-    if (plan.make == Make::Any) {
+    if (plan.make == LibraryKind::none) {
       return plan;
     }
     if (!plan.perPosition) {
@@ -403,11 +377,11 @@ class Builder {
     PlainPlan const& plan = Next();
     Frame frame{&plan, nullptr, dictionary, dictionary ? pending.EntryMark() : pending.ElementMark(),
                 in.Tell()};
-    if (plan.make == Make::Own) {
+    if (plan.make == LibraryKind::other) {
       frame.plan = &UntypedPlan();
       frame.convert = &plan;
-    } else if (plan.make != (dictionary ? Make::Dictionary : Make::Array) &&
-               plan.make != Make::Any) {
+    } else if (plan.make != (dictionary ? LibraryKind::Dictionary : LibraryKind::Array) &&
+               plan.make != LibraryKind::none) {
       Refuse(plan, dictionary ? "an object" : "an array");
     }
     frames.push_back(frame);
@@ -494,7 +468,7 @@ class Builder {
     Integer const integer = ReadInteger(number);
     if (!Holds<T>(integer)) {
       Fail(TokenStart(), true,
-           "the integer " + Shown(number) + " is out of the range of " + TypeName(plan.make) +
+           "the integer " + Shown(number) + " is out of the range of " + DescribeExpected(plan) +
                " (" + std::to_string(+std::numeric_limits<T>::min()) + " to " +
                std::to_string(+std::numeric_limits<T>::max()) + ")");
     }
@@ -507,7 +481,7 @@ class Builder {
     typename Kind::ValueType value{};
     if (!ReadReal(number, value)) {
       Fail(TokenStart(), true,
-           "the number " + Shown(number) + " is out of the range of " + TypeName(plan.make));
+           "the number " + Shown(number) + " is out of the range of " + DescribeExpected(plan));
     }
     Finish(std::make_shared<Kind>(value), nullptr);
     return true;

@@ -246,15 +246,7 @@ void Write(Object const* value, Writer& writer) {
 
 std::string WritePlainJson(Object const* value, JsonLayout layout) {
   StringOutput out;
-  JsonStackAllocator allocator;
-  if (layout == JsonLayout::Indented) {
-    IndentedJsonWriter writer(out, &allocator);
-    writer.SetIndent(JsonIndentChar, JsonIndentLength);
-    Write(value, writer);
-  } else {
-    CompactJsonWriter writer(out, &allocator);
-    Write(value, writer);
-  }
+  WithJsonWriter(layout, out, [value](auto& writer) { Write(value, writer); });
   return out.Take();
 }
 

@@ -8,6 +8,8 @@
 // and indentation as any other value.
 #pragma once
 
+#include <ryx/object/serialize/json.hpp>
+
 #include <string_view>
 
 #include "object/serialize/detail/archives.hpp"
@@ -54,5 +56,19 @@ using IndentedJsonWriter =
     LiteralWriter<rapidjson::PrettyWriter<StringOutput, JsonEncoding, JsonEncoding,
                                           JsonStackAllocator, rapidjson::kWriteDefaultFlags>,
                   true>;
+
+// Calls `write` with a writer of `layout` writing into `out`, and returns
+// what it returns.
+template <class Write>
+decltype(auto) WithJsonWriter(JsonLayout layout, StringOutput& out, Write&& write) {
+  JsonStackAllocator allocator;
+  if (layout == JsonLayout::Indented) {
+    IndentedJsonWriter writer(out, &allocator);
+    writer.SetIndent(JsonIndentChar, JsonIndentLength);
+    return write(writer);
+  }
+  CompactJsonWriter writer(out, &allocator);
+  return write(writer);
+}
 
 }  // namespace ryx::object::detail

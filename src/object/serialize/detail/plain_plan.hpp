@@ -2,7 +2,7 @@
 //
 // Each node says what to make of one JSON value: a kind, the element schema
 // a container takes, and the plans of its elements. The node of the empty
-// schema (`Any`) lets the JSON decide, and a container it makes reads its
+// schema (`none`) lets the JSON decide, and a container it makes reads its
 // elements by the same node.
 //
 // The element schema given to a container is the one its schema's check
@@ -19,37 +19,21 @@
 #include <ryx/object/required.hpp>
 
 #include <cstdint>
+
+#include "object/serialize/detail/direct_record.hpp"
 #include <string>
 #include <vector>
 
 namespace ryx::object::detail {
 
 struct PlainPlan {
-  enum class Make : std::uint8_t {
-    Any,
-    Bool,
-    Int8,
-    Int16,
-    Int32,
-    Int64,
-    UInt8,
-    UInt16,
-    UInt32,
-    UInt64,
-    Float,
-    Double,
-    String,
-    Array,
-    Dictionary,
-    // A type of the user's own, made by its PlainFunctions from the value
-    // read as the JSON decides.
-    Own,
-  };
-
-  Make make = Make::Any;
+  // What to make: one of the library's kinds plain JSON holds; `none` for
+  // what the JSON decides; `other` for a type of the user's own, made by its
+  // PlainFunctions from the value read as the JSON decides.
+  LibraryKind make = LibraryKind::none;
   // Whether null makes a null child: only when there is no schema at all.
   bool nullable = false;
-  // The type the schema names (null for Any).
+  // The type the schema names (null for `none`).
   hash::MurmurThree32 type;
   // Array, Dictionary: the schema the made container takes.
   Required elementSchema;
@@ -57,7 +41,7 @@ struct PlainPlan {
   // element by children[0].
   bool perPosition = false;
   std::vector<PlainPlan> children;
-  // Own: the type's registry record.
+  // `other`: the type's registry record.
   registry::Info const* own = nullptr;
 };
 
