@@ -19,6 +19,7 @@
 #include "object/serialize/detail/view_stream.hpp"
 #include "object/serialize/detail/xml_depth.hpp"
 #include "object/serialize/detail/xml_formatting.hpp"
+#include "object/serialize/detail/xml_location.hpp"
 
 namespace ryx::object {
 
@@ -76,14 +77,19 @@ std::string ToXml(std::shared_ptr<Object const> const& value) {
 }
 
 // The XML parser recurses once per element level: the depth is checked first,
-// against the nesting limit and against the stack left for the parser.
+// against the nesting limit and against the stack left for the parser. Only
+// then may a failure parse the document again to say where it happened.
 std::shared_ptr<Object> FromXml(std::string_view document) {
   CheckXmlDepth(document);
-  detail::ViewStream in(document);
-  auto archive = std::make_unique<cereal::XMLInputArchive>(in);
-  std::shared_ptr<Object> value;
-  Load(*archive, value);
-  return value;
+  try {
+    detail::ViewStream in(document);
+    auto archive = std::make_unique<cereal::XMLInputArchive>(in);
+    std::shared_ptr<Object> value;
+    Load(*archive, value);
+    return value;
+  } catch (...) {
+    detail::RethrowLocatedInXml(document);
+  }
 }
 
 }  // namespace ryx::object
