@@ -4,14 +4,18 @@
 #include <boost/algorithm/string/join.hpp>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <typeinfo>
 #include <vector>
 
+#include "support.hpp"
+
 namespace {
 
 using namespace ryx::object;
+using ryx::object::testing::RunOnStack;
 
 std::shared_ptr<Object> Load(std::string const& typeName, std::string const& text) {
   return FromXml("<cereal><typename>" + typeName + "</typename><value>" + text +
@@ -37,6 +41,11 @@ Location FailureOf(std::string const& document, std::string const& what) {
   ADD_FAILURE() << "no " << typeid(Error).name() << ": " << document;
   return {};
 }
+
+struct NestingLimit {
+  explicit NestingLimit(std::size_t levels) { SetNestingLimit(levels); }
+  ~NestingLimit() { SetNestingLimit(DefaultNestingLimit); }
+};
 
 void ExpectAt(Location const& location, std::string const& path, std::size_t line,
               std::size_t column) {
@@ -133,10 +142,7 @@ TEST(XmlForm, PlacesARefusedValueAtItsElement) {
 }
 
 TEST(XmlForm, PlacesNestingTooDeepAtTheFirstValueOrElementTooDeep) {
-  struct Limit {
-    Limit() { SetNestingLimit(2); }
-    ~Limit() { SetNestingLimit(DefaultNestingLimit); }
-  } const limit;
+  NestingLimit const limit(2);
   std::string const array =
       "<typename>ryx.object.Array</typename><required><type>0</type><child_types/></required>";
   ExpectAt(FailureOf<NestingLimitError>(
@@ -152,6 +158,22 @@ TEST(XmlForm, PlacesNestingTooDeepAtTheFirstValueOrElementTooDeep) {
                "XML elements are nested deeper than 13 levels, more than a document within the "
                "nesting limit of 2 levels holds"),
            "", 2, 37);
+}
+
+// A failure is placed by parsing the document again, from the frame the
+// archive parsed it from: that must fit the stack too, also for documents as
+// deep as the depth check lets through.
+TEST(XmlForm, PlacesFailuresOfDocumentsAsDeepAsTheStackAllows) {
+  NestingLimit const limit(1000000);
+  std::string const array =
+      "<typename>ryx.object.Array</typename><required><type>0</type><child_types/></required>";
+  for (std::size_t depth = 10; depth <= 400; depth += 10) {
+    std::string const document = "<cereal>" + Repeated(array + "<objects><value0>", depth) +
+                                 "<typename>ryx.object.Int32</typename><value>x</value>" +
+                                 Repeated("</value0></objects>", depth) + "</cereal>";
+    std::string const outcome = RunOnStack(128 << 10, [&] { FromXml(document); });
+    EXPECT_TRUE(outcome == "stoi" || outcome == "refused") << depth << ": " << outcome;
+  }
 }
 
 // Text that is not XML is placed where the parser stopped; a document
