@@ -222,6 +222,24 @@ TEST(Record, RefusesBadDocumentsWithTheErrorsOfTheBuiltInKinds) {
   EXPECT_THROW(ToXml(std::make_shared<EverythingRecord>(value)), std::runtime_error);
 }
 
+// In the XML form a failure inside a child member is placed at the element of
+// the value that failed, reached through the members' elements.
+TEST(Record, PlacesAFailureInsideAChildMemberAtItsElementInXml) {
+  // The Int32 child of the record that is the member "next".
+  std::string chain = ToXml(test::Chain(2));
+  chain.replace(chain.find("<value>1</value>"), 16, "<value>one</value>");
+  try {
+    FromXml(chain);
+    ADD_FAILURE() << "loaded";
+  } catch (std::invalid_argument const& error) {
+    EXPECT_STREQ(error.what(), "stoi");
+    ASSERT_NE(FindLocation(error), nullptr);
+    EXPECT_EQ(FindLocation(error)->path, "/next/child");
+    EXPECT_EQ(FindLocation(error)->offset, chain.find("<child>", chain.find("<next>")));
+    EXPECT_EQ(FindLocation(error)->column, 3u);
+  }
+}
+
 TEST(Record, RegistersForTheLifeOfAScopedRegistration) {
   ASSERT_EQ(Object::TypeName(Object::TypeIdOf<Record<test::ScopedOnly>>()), nullptr);
   {

@@ -18,11 +18,12 @@ class Scanner {
  public:
   explicit Scanner(std::string_view text) : text(text) {}
 
+  // The offset of the '<' of the first element deeper than `maxDepth`, or End.
   std::size_t Scan(std::size_t maxDepth) const {
     std::size_t depth = 0;
     std::size_t at = 0;
     while (at != End && (at = text.find('<', at)) != End) {
-      ++at;
+      std::size_t const open = at++;
       if (At(at) == '/') {
         depth -= depth != 0 ? 1 : 0;
         at = Past(at, ">");
@@ -33,14 +34,14 @@ class Scanner {
       } else {
         // An empty element still costs the parser one level.
         if (++depth > maxDepth) {
-          return depth;
+          return open;
         }
         bool empty = false;
         at = SkipStartTag(at, empty);
         depth -= empty ? 1 : 0;
       }
     }
-    return 0;
+    return End;
   }
 
  private:
@@ -148,9 +149,10 @@ class Scanner {
 
 }  // namespace
 
-bool XmlNestsDeeperThan(std::string_view document, std::size_t maxDepth) {
+std::optional<std::size_t> XmlTooDeepAt(std::string_view document, std::size_t maxDepth) {
   // The parser stops at the first NUL byte.
-  return Scanner(document.substr(0, document.find('\0'))).Scan(maxDepth) != 0;
+  std::size_t const at = Scanner(document.substr(0, document.find('\0'))).Scan(maxDepth);
+  return at != End ? std::optional<std::size_t>(at) : std::nullopt;
 }
 
 }  // namespace ryx::object::detail

@@ -8,6 +8,12 @@
 // within the nesting limit could be, or than the parser has stack left for, or
 // the errors of Load).
 //
+// Its failures carry a Location (see location.hpp) with a line and column:
+// where text stops being XML, where a document lacks the root element, the
+// element one level too deep, or the '<' of the element that holds the value
+// which failed to load (the path names it). A value read as several fields is
+// placed at its own element, not at the field.
+//
 // XML 1.0 holds tab, line feed, carriage return and every character from
 // U+0020 on, in UTF-8 here. Saving a string or dictionary key with another
 // control character, U+FFFE or U+FFFF, or bytes that are not UTF-8 throws
