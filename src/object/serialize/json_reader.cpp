@@ -307,23 +307,12 @@ class Builder {
     return path;
   }
 
-  // Where the token just read starts: a string at its opening quote (every
-  // quote inside one follows an odd number of backslashes), a number or a
-  // literal at its first character.
+  // Where the token just read starts: a string at its opening quote, a
+  // number or a literal at its first character.
   std::size_t TokenStart() const {
     std::size_t at = in.Tell();
     if (at != 0 && text[at - 1] == '"') {
-      for (--at; at != 0;) {
-        --at;
-        std::size_t backslashes = 0;
-        while (backslashes < at && text[at - 1 - backslashes] == '\\') {
-          ++backslashes;
-        }
-        if (text[at] == '"' && backslashes % 2 == 0) {
-          return at;
-        }
-      }
-      return 0;
+      return StringStart(text, at);
     }
     while (at != 0 && std::strchr("0123456789+-.eEtrufalsn", text[at - 1]) != nullptr &&
            text[at - 1] != '\0') {

@@ -52,6 +52,24 @@ void LocateInText(std::string_view text, std::size_t offset, Location& location)
   }
 }
 
+std::size_t StringStart(std::string_view text, std::size_t end) noexcept {
+  std::size_t at = end - 1;  // the closing quote
+  while (at != 0) {
+    --at;
+    if (text[at] != '"') {
+      continue;
+    }
+    std::size_t backslashes = 0;
+    while (backslashes < at && text[at - 1 - backslashes] == '\\') {
+      ++backslashes;
+    }
+    if (backslashes % 2 == 0) {
+      return at;
+    }
+  }
+  return 0;
+}
+
 namespace {
 
 // Throws `error` as a LocatedError<E> when it is exactly an E, or a

@@ -21,6 +21,7 @@
 #include "object/serialize/detail/json_allocator.hpp"
 #include "object/serialize/detail/kinds.hpp"
 #include "object/serialize/detail/loaded.hpp"
+#include "object/serialize/detail/locate.hpp"
 #include "object/serialize/detail/pending_children.hpp"
 #include "object/serialize/detail/utf8.hpp"
 
@@ -282,7 +283,7 @@ class Builder {
 
  private:
   struct Frame {
-    PlainPlan const* plan;  // the container's; Any for one the JSON decides
+    PlainPlan const* plan;  // the container's; `none` for one the JSON decides
     PlainPlan const* convert;  // the plan of a type of the user's own it makes, or null
     bool dictionary;
     std::size_t mark;   // where its children start in `pending`
@@ -301,35 +302,19 @@ class Builder {
   }
 
   // A literal or number is its length back from where reading stopped, a
-  // bracket where it stopped (the event comes before the bracket is taken); a
-  // string starts at the quote that is not escaped, found backwards from its
-  // closing quote (every quote inside is preceded by an odd number of
-  // backslashes).
+  // bracket where it stopped (the event comes before the bracket is taken), a
+  // string at its opening quote.
   std::size_t TokenStart() const {
     std::size_t const end = in.Tell();
     switch (tokenKind) {
       case TokenKind::Literal:
         return end >= tokenLength ? end - tokenLength : 0;
       case TokenKind::Open:
-        return end;  // the reader takes the bracket after the event
+        return end;
       case TokenKind::String:
         break;
     }
-    std::size_t at = end - 1;  // the closing quote
-    while (at != 0) {
-      --at;
-      if (text[at] != '"') {
-        continue;
-      }
-      std::size_t backslashes = 0;
-      while (backslashes < at && text[at - 1 - backslashes] == '\\') {
-        ++backslashes;
-      }
-      if (backslashes % 2 == 0) {
-        return at;
-      }
-    }
-    return 0;
+    return StringStart(text, end);
   }
 
   // Whether the JSON decides what a value becomes: without a schema, in a
@@ -507,21 +492,7 @@ class Builder {
   // value there (with `child`, the child the top container is reading).
   Location Locate(std::size_t offset, bool child) const {
     Location location;
-    location.hasOffset = true;
-    location.offset = offset;
-    location.line = 1;
-    std::size_t lineStart = 0;
-    for (std::size_t at = 0; at != offset && at != text.size(); ++at) {
-      if (text[at] == '\n') {
-        ++location.line;
-        lineStart = at + 1;
-      }
-    }
-    location.column = 1;
-    for (std::size_t at = lineStart; at != offset && at != text.size(); ++at) {
-      // Characters, not bytes: continuation bytes do not count.
-      location.column += (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80 ? 1 : 0;
-    }
+    LocateInText(text, offset, location);
     std::size_t const levels = child ? frames.size() : frames.size() - (frames.empty() ? 0 : 1);
     for (std::size_t level = 0; level != levels; ++level) {
       Frame const& frame = frames[level];
