@@ -173,7 +173,7 @@ class Finder {
   }
 
   bool Scalar() {
-    if (!nodes.empty() && nodes.back().role != Role::Entry) {
+    if (!nodes.empty()) {
       ++nodes.back().index;
     }
     return true;
