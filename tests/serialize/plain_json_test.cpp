@@ -298,6 +298,10 @@ TEST(PlainJson, RefusesWhatIsNotStrictJsonAndSaysWhere) {
        "line 1, column 4: The document root must not be followed by other values."},
       {"\"\\uD800\"", "line 1, column 2: The surrogate pair in string is invalid."},
       {"\xef\xbb\xbf{}", "line 1, column 1: Invalid value."},
+      // Not UTF-8 past the first eight bytes, which are checked a word at a time.
+      {"[\"abcdefgh\xffijklmnop\"]",
+       "line 1, column 2, at /0: the string is not valid UTF-8: the byte 0xFF at offset 8 does not "
+       "start a valid UTF-8 sequence"},
   };
   for (auto const& [text, message] : cases) {
     EXPECT_EQ(Read(text), message) << text;
