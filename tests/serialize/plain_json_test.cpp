@@ -302,6 +302,10 @@ TEST(PlainJson, RefusesWhatIsNotStrictJsonAndSaysWhere) {
       {"[\"abcdefgh\xffijklmnop\"]",
        "line 1, column 2, at /0: the string is not valid UTF-8: the byte 0xFF at offset 8 does not "
        "start a valid UTF-8 sequence"},
+      // A member name is placed at its quote, on the path of the object holding it.
+      {"{\"a\": {\"\xff\": 1}}",
+       "line 1, column 8, at /a: the member name is not valid UTF-8: the byte 0xFF at offset 0 "
+       "does not start a valid UTF-8 sequence"},
   };
   for (auto const& [text, message] : cases) {
     EXPECT_EQ(Read(text), message) << text;

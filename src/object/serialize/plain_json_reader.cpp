@@ -219,7 +219,7 @@ class Builder {
     Token(TokenKind::String, length);
     std::string_view const string(characters, length);
     PlainPlan const& plan = Next();
-    CheckUtf8(string, "the string");
+    CheckUtf8(string, "the string", true);
     if (plan.make != LibraryKind::String && !Decides(plan)) {
       Refuse(plan, "a string");
     }
@@ -234,11 +234,8 @@ class Builder {
     Token(TokenKind::String, length);
     std::string_view const key(characters, length);
     Frame& top = frames.back();
-    if (FindInvalidUtf8(key) != std::string_view::npos) {
-      // Located at the object holding the member.
-      Fail(TokenStart(), false,
-           "the member name is not valid UTF-8: " + DescribeInvalidUtf8(key, FindInvalidUtf8(key)));
-    }
+    // Located at the object holding the member.
+    CheckUtf8(key, "the member name", false);
     top.current = pending.EntryMark();
     ++top.keys;
     pending.AddKey(std::string(key));
@@ -472,10 +469,10 @@ class Builder {
     return true;
   }
 
-  void CheckUtf8(std::string_view string, char const* what) {
+  void CheckUtf8(std::string_view string, char const* what, bool child) {
     std::size_t const invalid = FindInvalidUtf8(string);
     if (invalid != std::string_view::npos) {
-      Fail(TokenStart(), true,
+      Fail(TokenStart(), child,
            std::string(what) + " is not valid UTF-8: " + DescribeInvalidUtf8(string, invalid));
     }
   }
